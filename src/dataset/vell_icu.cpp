@@ -1,0 +1,90 @@
+#include "dataset/vell_icu.h"
+
+#include "fs/paths.h"
+#include "fs/primitives.h"
+
+#include <cerrno>
+#include <cstring>
+#include <err.h>
+#include <fstream>
+#include <fts.h>
+#include <regex>
+#include <sys/stat.h>
+
+namespace {
+
+const std::regex& data_file_pattern() {
+    static const std::regex pattern("icutz([0-9]+[lbe])\\.dat", std::regex::ECMAScript);
+    return pattern;
+}
+
+} // namespace
+
+vell_icu::vell_icu(const std::string& dataset_path)
+    : vell_dataset_component(dataset_path),
+      path(dataset_path.empty() ? std::string(vell_paths::system_icu) : dataset_path + "/icutz") {
+    initialize();
+}
+
+void vell_icu::initialize() {
+    if (dataset_path.empty()) {
+        // The installed system names the format it expects.
+        std::ifstream file(path + "/icutzformat.txt");
+        file >> schema;
+        return;
+    }
+
+    // An update names its format in the name of its data file.
+    const std::regex& pattern = data_file_pattern();
+    std::string root = path;
+    char* roots[] = {root.data(), nullptr};
+    FTS* walk = fts_open(roots, FTS_COMFOLLOW | FTS_PHYSICAL | FTS_XDEV, nullptr);
+    if (walk == nullptr) {
+        const int error = errno;
+        warn("tz_icu::initialize: fts_open of %s failed, %s", path.c_str(), strerror(error));
+        throw error;
+    }
+    while (FTSENT* entry = fts_read(walk)) {
+        if (entry->fts_level == 1 && entry->fts_info == FTS_D) {
+            // Only direct children can name the format; nothing below them is looked at.
+            fts_set(walk, entry, FTS_SKIP);
+            continue;
+        }
+        if (entry->fts_errno != 0 || entry->fts_level != 1 || entry->fts_namelen == 0 ||
+            entry->fts_info != FTS_F || (entry->fts_statp->st_mode & S_IROTH) == 0) {
+            continue;
+        }
+        const std::string name(entry->fts_name, entry->fts_namelen);
+        std::smatch match;
+        if (std::regex_match(name, match, pattern)) {
+            schema = match[1].str();
+            break; // the first matching file wins
+        }
+    }
+    fts_close(walk);
+    if (schema.empty()) {
+        warn("No ICU schema found for %s", dataset_path.c_str());
+    }
+}
+
+bool vell_icu::compatible_schema(const vell_dataset_component& other) const {
+    const auto* other_icu = dynamic_cast<const vell_icu*>(&other);
+    if (other_icu == nullptr) {
+        warn("vell_icu::compatible_schema: could not dynamic_cast other component");
+        return false;
+    }
+    return schema == other_icu->schema;
+}
+
+void vell_icu::activate() const {
+    try {
+        vell_fs::remove(vell_paths::icutz_link);
+        vell_fs::remove(vell_paths::legacy_icutz_link);
+    } catch (...) {
+        warn("unlink of ICU softlink failed");
+    }
+    // The system partition's ICU data is used through no link at all.
+    if (!dataset_path.empty()) {
+        vell_fs::create_symlink(path, vell_paths::icutz_link);
+    }
+}
