@@ -7,9 +7,13 @@
 #include <err.h>
 #include <stdexcept>
 
-vell_dataset::vell_dataset() { create_components(); }
+vell_dataset::vell_dataset() {
+    create_components();
+}
 
-vell_dataset::vell_dataset(const std::string& path) : path(path) { create_components(); }
+vell_dataset::vell_dataset(const std::string& path) : path(path) {
+    create_components();
+}
 
 void vell_dataset::create_components() {
     using vell_paths::tz_dir_prefix;

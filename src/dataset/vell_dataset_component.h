@@ -6,8 +6,7 @@
 class vell_dataset_component {
   public:
     vell_dataset_component() = default;
-    explicit vell_dataset_component(const std::string& dataset_path)
-        : dataset_path(dataset_path) {}
+    explicit vell_dataset_component(const std::string& dataset_path) : dataset_path(dataset_path) {}
 
     // Whether this component's data can be used together with other's.
     virtual bool compatible_schema(const vell_dataset_component& other) const = 0;

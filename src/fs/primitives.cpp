@@ -18,7 +18,9 @@ void remove(const std::string& path) {
     throw errno;
 }
 
-bool exists(const std::string& path) { return ::access(path.c_str(), F_OK) == 0; }
+bool exists(const std::string& path) {
+    return ::access(path.c_str(), F_OK) == 0;
+}
 
 std::string read_symlink(const std::string& path) {
     char buffer[max_target + 1]; // the target plus the NUL we append

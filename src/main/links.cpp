@@ -5,7 +5,9 @@
 
 #include <err.h>
 
-std::string latest_dataset_path() { return vell_fs::read_symlink(vell_paths::tz_latest); }
+std::string latest_dataset_path() {
+    return vell_fs::read_symlink(vell_paths::tz_latest);
+}
 
 std::string current_dataset_path() {
     return dataset_path_from_zoneinfo_link(vell_fs::read_symlink(vell_paths::zoneinfo_link));

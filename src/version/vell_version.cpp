@@ -26,7 +26,9 @@ std::int32_t optional_number(const std::string& digits) {
 
 } // namespace
 
-vell_version::vell_version(const std::string& text) { parse(text); }
+vell_version::vell_version(const std::string& text) {
+    parse(text);
+}
 
 void vell_version::parse(const std::string& text) {
     try {

@@ -21,8 +21,12 @@ TEST_F(dataset, system_version_is_the_version_word_plus_1_0) {
     const std::vector<std::tuple<std::string, std::string, strings>> cases = {
         {"2016a\n", "2016a.1.0", {}},
         {"\n\n  2016f extra\n", "2016f.1.0", {}},
-        {"", ".1.0", {"Cannot parse version string .1.0, results.size() = 0", "Cannot parse version string .1.0"}},
-        {"2016a.1.0", "2016a.1.0.1.0",
+        {"",
+         ".1.0",
+         {"Cannot parse version string .1.0, results.size() = 0",
+          "Cannot parse version string .1.0"}},
+        {"2016a.1.0",
+         "2016a.1.0.1.0",
          {"Cannot parse version string 2016a.1.0.1.0, results.size() = 0",
           "Cannot parse version string 2016a.1.0.1.0"}},
     };
@@ -54,8 +58,9 @@ TEST_F(dataset, update_paths_are_taken_only_under_the_tz_directory) {
         EXPECT_EQ(dynamic_cast<vell_zoneinfo&>(*set.components[0]).get_path(), path + "/zoneinfo");
         EXPECT_EQ(dynamic_cast<vell_icu&>(*set.components[1]).get_path(), path + "/icutz");
     }
-    for (const std::string& path : {timezone_dir + "tz/", timezone_dir + "tz", timezone_dir + "tzx/2016b",
-                                   system_zoneinfo, std::string("/var/db/timezone/TZ/2016b")}) {
+    for (const std::string& path :
+         {timezone_dir + "tz/", timezone_dir + "tz", timezone_dir + "tzx/2016b", system_zoneinfo,
+          std::string("/var/db/timezone/TZ/2016b")}) {
         devroot::stderr_capture capture;
         try {
             vell_dataset set(path);
@@ -70,8 +75,8 @@ TEST_F(dataset, update_paths_are_taken_only_under_the_tz_directory) {
 TEST_F(dataset, compares_versions_by_order_and_paths_by_equality) {
     devroot::system_partition("2016a", "44l");
     devroot::stderr_capture quiet;
-    const vell_dataset system, system_again, same_version(update_dir("2016a.1.0")),
-        newer(update), newer_slash(update + "/"), unparsed(update_dir("x"));
+    const vell_dataset system, system_again, same_version(update_dir("2016a.1.0")), newer(update),
+        newer_slash(update + "/"), unparsed(update_dir("x"));
     EXPECT_TRUE(system == system_again);
     EXPECT_FALSE(newer == newer_slash);
     EXPECT_FALSE(same_version == system);
@@ -94,7 +99,11 @@ TEST_F(dataset, icu_schema_comes_from_a_whole_matching_readable_file_name) {
          },
          ""},
         {[](auto& dir) { make_dir(dir + "/icutz44l.dat"); }, ""},
-        {[](auto& dir) { write_file("/var/f", ""); make_link("/var/f", dir + "/icutz44l.dat"); }, ""},
+        {[](auto& dir) {
+             write_file("/var/f", "");
+             make_link("/var/f", dir + "/icutz44l.dat");
+         },
+         ""},
         {[](auto& dir) { write_file(dir + "/icutz44l.dat", "", 0600); }, ""},
         {[](auto& dir) { write_file(dir + "/sub/icutz44l.dat", ""); }, ""},
         {[](auto& dir) { std::filesystem::remove_all(dir); }, ""},
@@ -172,12 +181,13 @@ TEST_F(dataset, activation_over_directories_reports_and_throws) {
     devroot::stderr_capture capture;
     EXPECT_THROW(vell_zoneinfo(update).activate(), int);
     EXPECT_THROW(vell_icu(update).activate(), int);
-    EXPECT_EQ(capture.messages(),
-              (strings{"remove: could not remove " + zoneinfo_link, "Unlink of zoneinfo softlink failed",
-                       "create_symlink: from " + zoneinfo_link + " to " + update + "/zoneinfo",
-                       "No ICU schema found for " + update, "remove: could not remove " + icutz_link,
-                       "unlink of ICU softlink failed",
-                       "create_symlink: from " + icutz_link + " to " + update + "/icutz"}));
+    EXPECT_EQ(
+        capture.messages(),
+        (strings{"remove: could not remove " + zoneinfo_link, "Unlink of zoneinfo softlink failed",
+                 "create_symlink: from " + zoneinfo_link + " to " + update + "/zoneinfo",
+                 "No ICU schema found for " + update, "remove: could not remove " + icutz_link,
+                 "unlink of ICU softlink failed",
+                 "create_symlink: from " + icutz_link + " to " + update + "/icutz"}));
     EXPECT_EQ(state("/var/db/icutz"), "/old"); // the first failed removal stops the second
 }
 

@@ -8,10 +8,10 @@
 
 namespace {
 
+using boots::state;
 using devroot::make_dir;
 using devroot::make_link;
 using devroot::write_file;
-using boots::state;
 
 struct primitive_case {
     std::string name;
@@ -30,21 +30,65 @@ class primitives : public devroot::device_test {};
 
 TEST_F(primitives, report_and_throw_exactly_as_documented) {
     const std::vector<primitive_case> cases = {
-        {"remove missing", {}, [] { vell_fs::remove(dir + "/none"); }, {}, {}, dir + "/none", boots::missing},
-        {"remove under missing parent", {}, [] { vell_fs::remove("/var/no/such/x"); }, {}, {}, "/var/no", boots::missing},
-        {"remove link keeps target", [] { write_file(dir + "/f", "data"); make_link(dir + "/f", dir + "/l"); },
-         [] { vell_fs::remove(dir + "/l"); }, {}, {}, dir + "/f", "=data"},
-        {"remove dangling link", [] { make_link("/none", dir + "/l"); },
-         [] { vell_fs::remove(dir + "/l"); }, {}, {}, dir + "/l", boots::missing},
-        {"remove directory", [] { make_dir(dir + "/d"); }, [] { vell_fs::remove(dir + "/d"); },
-         {"remove: could not remove /var/t/d"}, EISDIR, dir + "/d", "(dir)"},
-        {"create over dangling link", [] { make_link("/none", dir + "/l"); },
+        {"remove missing",
+         {},
+         [] { vell_fs::remove(dir + "/none"); },
+         {},
+         {},
+         dir + "/none",
+         boots::missing},
+        {"remove under missing parent",
+         {},
+         [] { vell_fs::remove("/var/no/such/x"); },
+         {},
+         {},
+         "/var/no",
+         boots::missing},
+        {"remove link keeps target",
+         [] {
+             write_file(dir + "/f", "data");
+             make_link(dir + "/f", dir + "/l");
+         },
+         [] { vell_fs::remove(dir + "/l"); },
+         {},
+         {},
+         dir + "/f",
+         "=data"},
+        {"remove dangling link",
+         [] { make_link("/none", dir + "/l"); },
+         [] { vell_fs::remove(dir + "/l"); },
+         {},
+         {},
+         dir + "/l",
+         boots::missing},
+        {"remove directory",
+         [] { make_dir(dir + "/d"); },
+         [] { vell_fs::remove(dir + "/d"); },
+         {"remove: could not remove /var/t/d"},
+         EISDIR,
+         dir + "/d",
+         "(dir)"},
+        {"create over dangling link",
+         [] { make_link("/none", dir + "/l"); },
          [] { vell_fs::create_symlink("/new", dir + "/l"); },
-         {"create_symlink: from /var/t/l to /new"}, EEXIST, dir + "/l", "/none"},
-        {"create to missing target", {}, [] { vell_fs::create_symlink("../rel", dir + "/l"); }, {}, {},
-         dir + "/l", "../rel"},
-        {"read regular file", [] { write_file(dir + "/f", "data"); }, [] { (void)vell_fs::read_symlink(dir + "/f"); },
-         {"read_symlink: /var/t/f"}, EINVAL, dir + "/f", "=data"},
+         {"create_symlink: from /var/t/l to /new"},
+         EEXIST,
+         dir + "/l",
+         "/none"},
+        {"create to missing target",
+         {},
+         [] { vell_fs::create_symlink("../rel", dir + "/l"); },
+         {},
+         {},
+         dir + "/l",
+         "../rel"},
+        {"read regular file",
+         [] { write_file(dir + "/f", "data"); },
+         [] { (void)vell_fs::read_symlink(dir + "/f"); },
+         {"read_symlink: /var/t/f"},
+         EINVAL,
+         dir + "/f",
+         "=data"},
     };
     for (const auto& c : cases) {
         devroot::clear();
@@ -67,10 +111,10 @@ TEST_F(primitives, report_and_throw_exactly_as_documented) {
 
 TEST_F(primitives, read_symlink_returns_the_stored_text_up_to_1024_bytes) {
     const std::vector<std::pair<std::string, std::string>> cases = {
-        {"../relative/UTC", "../relative/UTC"},    // not resolved
-        {"/no/such/target", "/no/such/target"},    // dangling
-        {long_target, long_target},                // exactly the buffer
-        {long_target + "yz", long_target},         // cut, silently
+        {"../relative/UTC", "../relative/UTC"}, // not resolved
+        {"/no/such/target", "/no/such/target"}, // dangling
+        {long_target, long_target},             // exactly the buffer
+        {long_target + "yz", long_target},      // cut, silently
     };
     for (const auto& [target, expected] : cases) {
         devroot::clear();

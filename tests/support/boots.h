@@ -23,7 +23,9 @@ inline const std::string system_zoneinfo = "/usr/share/zoneinfo.default";
 inline const std::string missing = "(missing)";
 inline const std::string default_localtime = zoneinfo_link + "/America/Los_Angeles";
 
-inline std::string update_dir(const std::string& version) { return timezone_dir + "tz/" + version; }
+inline std::string update_dir(const std::string& version) {
+    return timezone_dir + "tz/" + version;
+}
 
 // A link's target; "=content" for a regular file; "(dir)"; or "(missing)".
 std::string state(const std::string& path);
@@ -38,9 +40,9 @@ void sound_device();
 
 struct boot_case {
     std::string name;
-    std::function<void()> arrange;             // applied to the sound device
-    std::vector<std::string> messages;         // without prefix and errno text
-    std::map<std::string, std::string> after;  // path -> state()
+    std::function<void()> arrange;            // applied to the sound device
+    std::vector<std::string> messages;        // without prefix and errno text
+    std::map<std::string, std::string> after; // path -> state()
     int status = 0;
 };
 

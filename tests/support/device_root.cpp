@@ -91,7 +91,8 @@ void enter() {
     std::string why;
     if (!private_mount_namespace(why) ||
         mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        !bind_over(scratch_dir / "var", "/var", why) || !bind_over(scratch_dir / "share", "/usr/share", why)) {
+        !bind_over(scratch_dir / "var", "/var", why) ||
+        !bind_over(scratch_dir / "share", "/usr/share", why)) {
         reason = why.empty() ? std::string("cannot make mounts private: ") + strerror(errno) : why;
         return;
     }
@@ -105,8 +106,12 @@ void enter() {
     entered = true;
 }
 
-bool available() { return entered; }
-const std::string& unavailable_reason() { return reason; }
+bool available() {
+    return entered;
+}
+const std::string& unavailable_reason() {
+    return reason;
+}
 
 void clear() {
     clear_dir(scratch_dir / "var");

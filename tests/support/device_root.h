@@ -42,8 +42,8 @@ void update(const std::string& name, const std::string& icu_file);
 std::vector<std::string> messages(const std::string& output);
 
 struct run_result {
-    int status = -1;           // exit status, or -1 when killed by a signal
-    std::string output;        // standard error, raw
+    int status = -1;    // exit status, or -1 when killed by a signal
+    std::string output; // standard error, raw
     std::vector<std::string> messages;
 };
 // Runs the built tzlinks binary against the device root.
