@@ -200,7 +200,14 @@ std::vector<std::string> messages(const std::string& output) {
     return result;
 }
 
-run_result run_tzlinks() {
+run_result run_tzlinks(const std::vector<std::string>& prefix) {
+    std::vector<std::string> args = prefix;
+    args.push_back(prefix.empty() ? "tzlinks" : TZLINKS_BINARY);
+    std::vector<char*> argv;
+    for (auto& arg : args) {
+        argv.push_back(arg.data());
+    }
+    argv.push_back(nullptr);
     run_result result;
     int pipe_fds[2];
     if (pipe(pipe_fds) != 0) {
@@ -211,8 +218,11 @@ run_result run_tzlinks() {
         dup2(pipe_fds[1], STDERR_FILENO);
         close(pipe_fds[0]);
         close(pipe_fds[1]);
-        const char* argv[] = {"tzlinks", nullptr};
-        execv(TZLINKS_BINARY, const_cast<char* const*>(argv));
+        if (prefix.empty()) {
+            execv(TZLINKS_BINARY, argv.data());
+        } else {
+            execvp(argv[0], argv.data());
+        }
         _exit(127);
     }
     close(pipe_fds[1]);

@@ -46,8 +46,9 @@ struct run_result {
     std::string output; // standard error, raw
     std::vector<std::string> messages;
 };
-// Runs the built tzlinks binary against the device root.
-run_result run_tzlinks();
+// Runs the built tzlinks binary against the device root, behind prefix when it is not
+// empty (a tracer and its options, found on PATH).
+run_result run_tzlinks(const std::vector<std::string>& prefix = {});
 
 // Collects what in-process code writes to standard error.
 class stderr_capture {
