@@ -26,7 +26,7 @@ bool keep_or_rewrite() {
     if (!vell_fs::exists(rewritten)) {
         return false;
     }
-    std::remove(localtime_link);
+    static_cast<void>(std::remove(localtime_link));
     vell_fs::create_symlink(rewritten, localtime_link);
     return true;
 }
@@ -43,6 +43,6 @@ void correct_localtime_link() {
         // The failing primitive has reported; the reset below answers every failure.
     }
     warn("localtime link invalid; resetting to %s", default_zone);
-    std::remove(localtime_link);
+    static_cast<void>(std::remove(localtime_link));
     vell_fs::create_symlink(default_localtime_target, localtime_link);
 }

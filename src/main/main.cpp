@@ -56,8 +56,8 @@ int main() {
     bool ok = contained("protect_directories", protect_directories);
     ok &= contained("migrate_icutz_link", migrate_icutz_link);
     // Stale entries; whether they were there or could be removed does not matter.
-    std::remove(vell_paths::needs_cleanup);
-    std::remove(vell_paths::legacy_icu);
+    static_cast<void>(std::remove(vell_paths::needs_cleanup));
+    static_cast<void>(std::remove(vell_paths::legacy_icu));
     ok &= settle_dataset_links();
     ok &= contained("correct_localtime_link", correct_localtime_link);
     return ok ? 0 : 1;

@@ -7,6 +7,9 @@
 
 namespace {
 
+// A whole match of the pattern below: the match itself and its four groups.
+constexpr std::size_t match_entries = 5;
+
 // Built once per process: the program runs at every boot.
 const std::regex& version_pattern() {
     static const std::regex pattern("([0-9]+)([a-z]+)(?:\\.([0-9]+))?(?:\\.([0-9]+))?",
@@ -33,7 +36,8 @@ vell_version::vell_version(const std::string& text) {
 void vell_version::parse(const std::string& text) {
     try {
         std::smatch results;
-        if (!std::regex_match(text, results, version_pattern()) || results.size() != 5) {
+        if (!std::regex_match(text, results, version_pattern()) ||
+            results.size() != match_entries) {
             warn("Cannot parse version string %s, results.size() = %d", text.c_str(),
                  static_cast<int>(results.size()));
             throw std::invalid_argument("no match");
