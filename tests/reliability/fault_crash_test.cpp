@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <unistd.h>
 
@@ -187,7 +188,13 @@ class tracer {
   private:
     // LeakSanitizer cannot work under a tracer; the suite's own runs still check leaks.
     std::vector<std::string> base() const {
-        return {"strace", "-qq", "-y", "-o", file_, "-E", "ASAN_OPTIONS=detect_leaks=0"};
+        return {"strace",
+                "-qq",
+                "-y",
+                "-o",
+                file_,
+                "-E",
+                "ASAN_OPTIONS=detect_leaks=0:abort_on_error=1"};
     }
     std::string file_;
 };
@@ -212,6 +219,12 @@ std::string show(const snapshot& s) {
 
 std::string inject(const call& c, const std::string& what) {
     return "inject=" + c.name + ":" + what + ":when=" + std::to_string(c.ordinal);
+}
+
+// Under sanitizers a boot costs several times as much: only EIO (the program tells
+// ENOENT from every other error, never one error from another), and no second crash.
+bool quick() {
+    return std::getenv("TZLINKS_RELIABILITY_QUICK") != nullptr;
 }
 
 const std::vector<std::string> escapes = {"protect_directories failed", "migrate_icutz_link failed",
@@ -357,7 +370,10 @@ TEST_P(reliability, every_fault_heals) {
     for (std::size_t i = 0; i < calls_.size(); ++i) {
         const call& c = calls_[i];
         ++points;
-        std::vector<std::string> errors = {"EIO", "EACCES", "ENOSPC", "EROFS"};
+        std::vector<std::string> errors = {"EIO"};
+        if (!quick()) {
+            errors.insert(errors.end(), {"EACCES", "ENOSPC", "EROFS"});
+        }
         if (c.name == "symlink") {
             errors.push_back("EEXIST");
         }
@@ -402,7 +418,7 @@ TEST_P(reliability, every_crash_heals) {
         const trace healing_calls = tracer_.calls();
         windows_used += expect_healed(references_, before, take(), {{&calls_, k}}, what);
         // A second power loss, during the healing boot, at each of its disk changes.
-        for (std::size_t j = 0; j < healing_calls.size(); ++j) {
+        for (std::size_t j = 0; j < healing_calls.size() && !quick(); ++j) {
             if (!changes_disk(healing_calls[j])) {
                 continue;
             }
