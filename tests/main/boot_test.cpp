@@ -69,6 +69,10 @@ TEST_F(boot, decides_between_current_and_latest) {
          {incompatible}, on("2016b.1.0", made, "=2016c.1.0_2016b.1.0")},
         {"newer latest of another ICU format", in_use("", "2016e.1.0"),
          {not_newer("2016e.1.0", "2016c.1.0")}, on("", missing, missing)},
+        {"marker cannot be made: reported, the run goes on",
+         [] { in_use("2016b.1.0", "2016d.1.0")(); write_file(marker + "/keep", ""); },
+         {incompatible, "Cannot touch file " + marker}, // touched once only
+         on("2016d.1.0", "(dir)", "=2016c.1.0_2016d.1.0")},
         {"current of another ICU format", in_use("2016e.1.0", ""), {incompatible},
          on("", made, missing)},
         {"current as new as the system",
