@@ -148,11 +148,6 @@ std::string link(const std::string& path) {
     return fs::read_symlink(path).string();
 }
 
-bool exists(const std::string& path) {
-    struct stat st {};
-    return lstat(path.c_str(), &st) == 0;
-}
-
 std::string read_file(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     std::ostringstream text;

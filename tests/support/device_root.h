@@ -28,7 +28,6 @@ void make_link(const std::string& target, const std::string& path);
 // What is on disk: the link's target; "(missing)" when nothing is there; "(not a link)"
 // when something else is.
 std::string link(const std::string& path);
-bool exists(const std::string& path); // lstat: a dangling link exists
 std::string read_file(const std::string& path);
 
 // A system partition whose +VERSION holds version_word and whose icutzformat.txt
