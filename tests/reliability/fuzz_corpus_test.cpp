@@ -4,8 +4,6 @@
 #include "support/device_root.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace {
 
@@ -23,11 +21,9 @@ TEST(fuzz_corpus, every_stored_input_keeps_its_properties) {
                             target{"zoneinfo_link", fuzz_properties::zoneinfo_link}}) {
         int inputs = 0;
         for (const auto& entry : fs::directory_iterator(corpus / t.name)) {
-            std::ifstream file(entry.path(), std::ios::binary);
-            std::ostringstream bytes;
-            bytes << file.rdbuf();
+            const std::string input = devroot::read_file(entry.path());
             const devroot::stderr_capture warnings; // malformed texts warn, as they should
-            EXPECT_EQ(t.broken(bytes.str()), "") << entry.path();
+            EXPECT_EQ(t.broken(input), "") << entry.path();
             ++inputs;
         }
         EXPECT_GT(inputs, 0) << "no stored inputs for " << t.name;
