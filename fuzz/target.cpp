@@ -1,20 +1,45 @@
-// libFuzzer target: aborts on any input that breaks the property named by
-// FUZZ_PROPERTY (one of fuzz_properties' checks; each target is this file built once).
-#include "properties.h"
+// libFuzzer target: the first line of the input is a zoneinfo link target, the next ones up
+// to three version texts. Aborts when the link resolution or the version order breaks.
+#include "main/links.h"
+#include "version/vell_version.h"
 
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
-
-#define FUZZ_STRINGIFY(name) #name
-#define FUZZ_NAME(name) FUZZ_STRINGIFY(name)
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string broken =
-        fuzz_properties::FUZZ_PROPERTY(std::string_view(reinterpret_cast<const char*>(data), size));
-    if (!broken.empty()) {
-        std::fprintf(stderr, "%s: %s\n", FUZZ_NAME(FUZZ_PROPERTY), broken.c_str());
-        std::abort();
+    std::istringstream lines(std::string(reinterpret_cast<const char*>(data), size));
+    std::string target, text;
+    std::getline(lines, target);
+    try { // empty for the system target only, else an update directory cut from the front
+        const std::string dir = dataset_path_from_zoneinfo_link(target);
+        if (dir.empty() ? target != "/usr/share/zoneinfo.default"
+                        : dir.size() < 21 || !dir.starts_with("/var/db/timezone/tz/") ||
+                              !target.starts_with(dir)) {
+            std::abort();
+        }
+    } catch (int) {
+    }
+    std::vector<vell_version> v;
+    try {
+        while (v.size() < 3 && std::getline(lines, text)) {
+            v.emplace_back(text);
+        }
+    } catch (const std::out_of_range&) {
+        return 0;
+    }
+    for (const auto& a : v) { // a strict order whose incomparable pairs are the equal ones
+        for (const auto& b : v) {
+            for (const auto& c : v) {
+                if ((a > b && b > a) || (a == b) == (a > b || b > a) ||
+                    (a > b && b > c && !(a > c))) {
+                    std::abort();
+                }
+            }
+        }
     }
     return 0;
 }
