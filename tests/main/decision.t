@@ -1,13 +1,10 @@
-# The update decision on a sound device: system data 2016c.1.0 with ICU format 44l; updates
-# 2016a.1.0, 2016b.1.0, 2016d.1.0, 2016f.1.0 in format 44l and 2016e.1.0 in format 46l.
-# name || device changes || messages || changes the boot makes || exit status
+# The update decision (the sound device: system 2016c.1.0 in ICU format 44l, updates 2016a/b/d/f.1.0 in 44l, 2016e.1.0 in 46l)
 *sound device || || ||
 *passes, no update; a stale marker goes || marker || || -needs_cleanup
 passes on an update, none named || use:2016d.1.0 || ||
 fails (older), none named || use:2016b.1.0 || INCOMPAT || use: marker
 *passes, latest is the current || use:2016d.1.0 latest:2016d.1.0 || NOTNEWER 2016d.1.0 2016d.1.0 ||
 *fails, latest is the current || use:2016b.1.0 latest:2016b.1.0 || INCOMPAT | NOTNEWER 2016b.1.0 2016b.1.0 || use: marker
-latest older than current || use:2016f.1.0 latest:2016d.1.0 || NOTNEWER 2016d.1.0 2016f.1.0 ||
 *passes on system, newer latest || latest:2016d.1.0 || || use:2016d.1.0 rec:2016c.1.0_2016d.1.0
 *passes on an update, newer latest || use:2016d.1.0 latest:2016f.1.0 || || use:2016f.1.0 marker rec:2016d.1.0_2016f.1.0
 *fails, newer latest || use:2016b.1.0 latest:2016d.1.0 || INCOMPAT || use:2016d.1.0 marker rec:2016c.1.0_2016d.1.0
