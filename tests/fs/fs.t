@@ -1,6 +1,7 @@
 # The local-time repair and the legacy ICU link migration
 localtime missing || -localtime || LOCALTIME || localtime>$zoneinfo/America/Los_Angeles
 localtime a plain file || localtime=x || read_symlink: $localtime: EINVAL | LOCALTIME: EINVAL || localtime>$zoneinfo/America/Los_Angeles
+localtime an empty folder || localtime/ || read_symlink: $localtime: EINVAL | LOCALTIME: EINVAL || localtime>$zoneinfo/America/Los_Angeles
 localtime through zoneinfo, zone missing || localtime>$zoneinfo/No/Zone || ||
 localtime on the prefix without a slash || localtime>$zoneinfoX || ||
 *localtime in the public path, zone present || localtime>/usr/share/zoneinfo/UTC || Correcting localtime link to $zoneinfo/UTC || localtime>$zoneinfo/UTC
