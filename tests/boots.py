@@ -21,6 +21,10 @@ OPENS = {T + "needs_cleanup": "O_RDWR|O_CREAT, 0666", T + "TZVersionDiffRecord":
 # The start-up steps, in the order a boot of the sound device first touches their paths.
 ORDER = [T, V, "/var/db/icutz", T + "needs_cleanup", "/var/db/icu", "/usr/share/zoneinfo.default/+VERSION",
          "/usr/share/icu/icutzformat.txt", T + "tz_latest", T + "zoneinfo", T + "localtime"]
+# The disk changes of a boot that resets, leaves the marker, activates and records, in order.
+CHANGES = {"*fails, newer latest": "unlink needs_cleanup unlink /var/db/icu unlink zoneinfo symlink zoneinfo unlink icutz unlink "
+           "/var/db/icutz openat needs_cleanup unlink zoneinfo symlink zoneinfo unlink icutz unlink /var/db/icutz symlink icutz "
+           "openat TZVersionDiffRecord write TZVersionDiffRecord"}
 failures = []
 
 
@@ -116,8 +120,11 @@ def healed(row, refs, before, hits):
 
 def reliability(row, crashes, quick):
     calls, refs, _ = (arrange(row), traced()[2])[1], [], arrange(row)
-    for _ in range(2):  # two fault-free boots, traced on every path: what they change, and how
-        for name, _, line in traced()[2]:
+    for k in range(2):  # two fault-free boots, traced on every path: what they change, and how
+        every = traced()[2]
+        seq = " ".join(f"{n} {changed(n, l).removeprefix(T)}" for n, _, l in every if changed(n, l))
+        k == 0 and row[0] in CHANGES and seq != CHANGES[row[0]] and failures.append(f"{row[0]}: changes in order {seq}")
+        for name, _, line in every:
             opened = name == "openat" and line.split('"')[1]
             (changed(name, line) not in FIXED + [None] or opened in OPENS and OPENS[opened] not in line) and failures.append(f"{row[0]}: changes what is not its own, or opens it so: {line}")
         refs.append({p: state(p) for p in FIXED})

@@ -19,6 +19,7 @@ TEST(units, version_order_and_component_pairs) {
         }
     }
     EXPECT_EQ(vell_version("2016a.01"), vell_version("2016a.1"));
+    EXPECT_EQ(vell_version("2016.1"), vell_version()); // letters are required
     EXPECT_THROW(vell_version("2016a.2147483648"), std::out_of_range);
     const vell_dataset system;
     vell_dataset shorter;

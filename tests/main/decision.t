@@ -11,7 +11,7 @@ fails (older), none named || use:2016b.1.0 || INCOMPAT || use: marker
 fails; latest newer than current, older than system || use:2016a.1.0 latest:2016b.1.0 || INCOMPAT || use:2016b.1.0 marker rec:2016c.1.0_2016b.1.0
 newer latest of another ICU format || latest:2016e.1.0 || NOTNEWER 2016e.1.0 2016c.1.0 ||
 current of another ICU format || use:2016e.1.0 || INCOMPAT || use: marker
-current as new as the system || update:2016c.1.0 use:2016c.1.0 || ||
+current as new as the system, then left for a newer update || update:2016c.1.0 use:2016c.1.0 latest:2016d.1.0 || || use:2016d.1.0 marker rec:2016c.1.0_2016d.1.0
 current directory deleted || use:2016d.1.0 -@2016d.1.0 || No ICU schema found for @2016d.1.0: 0 | INCOMPAT: 0 || use: marker
 unparsable latest is never newer || update:next latest:next || UNPARSED next, results.size() = 0 | UNPARSED next | NOTNEWER next 2016c.1.0 ||
 unparsable current fails || update:x use:x || UNPARSED x, results.size() = 0 | UNPARSED x | INCOMPAT || use: marker
@@ -22,3 +22,4 @@ record cannot be written: the activation stands || latest:2016d.1.0 TZVersionDif
 marker cannot be made: reported once, the run goes on || use:2016b.1.0 latest:2016d.1.0 needs_cleanup/keep/ || INCOMPAT | Cannot touch file $needs_cleanup: EISDIR || use:2016d.1.0 rec:2016c.1.0_2016d.1.0
 an activation also removes a dangling legacy ICU link || latest:2016d.1.0 /var/db/icutz>/none || || use:2016d.1.0 rec:2016c.1.0_2016d.1.0 -/var/db/icutz
 ICU link is a folder: the activation fails, the reset keeps the legacy link || latest:2016d.1.0 icutz/x/ /var/db/icutz>/none || remove: could not remove $icutz: EISDIR | unlink of ICU softlink failed: EISDIR | create_symlink: from $icutz to @2016d.1.0/icutz: EEXIST | LOCATE: EEXIST | remove: could not remove $icutz: EISDIR | unlink of ICU softlink failed: EISDIR ||
+the marker follows a complete activation only || use:2016d.1.0 latest:2016f.1.0 -icutz icutz/x/ || remove: could not remove $icutz: EISDIR | unlink of ICU softlink failed: EISDIR | create_symlink: from $icutz to @2016f.1.0/icutz: EEXIST | LOCATE: EEXIST | remove: could not remove $icutz: EISDIR | unlink of ICU softlink failed: EISDIR || zoneinfo>/usr/share/zoneinfo.default
