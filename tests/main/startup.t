@@ -11,6 +11,7 @@ zoneinfo is a plain file || zoneinfo=x || read_symlink: $zoneinfo: EINVAL | INVA
 *tz_latest is read before the zoneinfo link || -zoneinfo tz_latest=x || read_symlink: $tz_latest: EINVAL | LOCATE: EINVAL || use:
 tz_latest outside the tz folder || tz_latest>2016d.1.0 || vell_dataset::create_components: bad path 2016d.1.0 | LOCATE ||
 tz_latest names the tz folder || tz_latest>$tz/ || vell_dataset::create_components: bad path $tz/ | LOCATE ||
+tz_latest names the system data || tz_latest>/usr/share/zoneinfo.default || vell_dataset::create_components: bad path /usr/share/zoneinfo.default | LOCATE ||
 tz_latest with a trailing slash does not parse || latest:2016d.1.0/ || UNPARSED 2016d.1.0/, results.size() = 0 | UNPARSED 2016d.1.0/ | NOTNEWER 2016d.1.0/ 2016c.1.0 ||
 current version too large to convert || zoneinfo>@2016a.2147483648/zoneinfo || LOCATE || use:
 latest version too large: the current update is left || use:2016d.1.0 latest:2016f.4294967296 || LOCATE || use:
