@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """boots.py --boots|--faults|--crashes TZLINKS PREFIX TABLE...: boots TZLINKS, behind PREFIX (an
-emulator, or nothing), on the device states of the tables, as the tables' header lines say. Rows
+emulator, or nothing), on the device states of the tables, in the row format the README's Tests section gives. Rows
 named *... are also the scenarios of --faults (EIO, and ENOENT, at each file-system call) and
 --crashes (a kill at each disk change, then at each of the healing boot's): a clean boot later,
 all must be as after one or two fault-free boots, or as a window of the README allows."""
@@ -93,11 +93,11 @@ def check(row):
 
 
 def traced(extra=()):  # a boot under strace (no leak check then): its calls on the device's paths, numbered by name
-    seen, calls, _ = collections.Counter(), [], boot(["strace", "-qq", "-y", "-o", TRACE, "-E", "ASAN_OPTIONS=detect_leaks=0"] + list(extra))
+    seen, calls, result = collections.Counter(), [], boot(["strace", "-qq", "-y", "-o", TRACE, "-E", "ASAN_OPTIONS=detect_leaks=0"] + list(extra))
     for line in open(TRACE):
         seen[name := line.split("(")[0]] += 1
         re.search(r'["<](/var/|/usr/share/)', line) and calls.append((name, seen[name], line.strip()))
-    return _[0], _[1], calls
+    return result[0], result[1], calls
 
 
 def changed(name, line):  # the path a call changes, if it changes one
