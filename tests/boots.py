@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """boots.py --boots|--faults|--crashes TZLINKS PREFIX TABLE...: boots TZLINKS, behind PREFIX (an
-emulator, or nothing), on the device states of the tables, in the row format the README's Tests section gives. Rows
-named *... are also the scenarios of --faults (EIO, and ENOENT, at each file-system call) and
---crashes (a kill at each disk change, then at each of the healing boot's): a clean boot later,
-all must be as after one or two fault-free boots, or as a window of the README allows."""
+emulator, or nothing), on the device states of the tables (row format: the README's Tests).
+Rows named *... are also the scenarios of --faults (EIO, and ENOENT, at each file-system call)
+and --crashes (a kill at each disk change, then at each of the healing boot's): a clean boot
+later, all must be as after one or two fault-free boots, or as a window of the README allows."""
 import collections, errno, os, re, shlex, shutil, subprocess, sys, tempfile
 
 T, V = "/var/db/timezone/", "/var/db/timezone/tz/"
