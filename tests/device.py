@@ -22,7 +22,6 @@ MACROS = {
     "rec": "TZVersionDiffRecord={v}",
     "marker": "needs_cleanup=",
     "update": "@{v}/zoneinfo/+VERSION={y} @{v}/zoneinfo/UTC= @{v}/icutz/icutz{f}.dat=",
-    "twoicu": "@{v}/icutz*",
 }
 SOUND = (
     "/usr/share/zoneinfo.default/+VERSION=2016c /usr/share/zoneinfo.default/UTC="

@@ -12,4 +12,4 @@ ICU name on a folder || update:2016g.1.0,none @2016g.1.0/icutz/icutz44l.dat/ lat
 ICU name on a link || update:2016g.1.0,none @2016g.1.0/icutz/icutz44l.dat>@2016d.1.0/icutz/icutz44l.dat latest:2016g.1.0 || No ICU schema found for @2016g.1.0: 0 | NOTNEWER 2016g.1.0 vs. 2016c.1.0: 0 ||
 ICU file one folder down || update:2016g.1.0,none @2016g.1.0/icutz/sub/icutz44l.dat= latest:2016g.1.0 || No ICU schema found for @2016g.1.0: 0 | NOTNEWER 2016g.1.0 vs. 2016c.1.0: 0 ||
 ICU folder of an update is a link, followed || update:2016g.1.0 -@2016g.1.0/icutz @2016g.1.0/icutz>@2016d.1.0/icutz latest:2016g.1.0 || || use:2016g.1.0 rec:2016c.1.0_2016g.1.0
-the first of two matching ICU files wins || update:2016g.1.0,none twoicu:2016g.1.0 latest:2016g.1.0 || || use:2016g.1.0 rec:2016c.1.0_2016g.1.0
+the first of two matching ICU files wins || update:2016g.1.0,none @2016g.1.0/icutz* latest:2016g.1.0 || || use:2016g.1.0 rec:2016c.1.0_2016g.1.0
