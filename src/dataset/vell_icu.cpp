@@ -2,6 +2,7 @@
 
 #include "fs/paths.h"
 #include "fs/primitives.h"
+#include "version/vell_regex.h"
 
 #include <cerrno>
 #include <cstring>
@@ -13,8 +14,8 @@
 
 namespace {
 
-const std::regex& data_file_pattern() {
-    static const std::regex pattern("icutz([0-9]+[lbe])\\.dat", std::regex::ECMAScript);
+const vell_regex& data_file_pattern() {
+    static const vell_regex pattern(vell_patterns::icu_data_file, vell_regex::ECMAScript);
     return pattern;
 }
 
@@ -35,7 +36,7 @@ void vell_icu::initialize() {
     }
 
     // An update names its format in the name of its data file.
-    const std::regex& pattern = data_file_pattern();
+    const vell_regex& pattern = data_file_pattern();
     std::string root = path;
     char* roots[] = {root.data(), nullptr};
     FTS* walk = fts_open(roots, FTS_COMFOLLOW | FTS_PHYSICAL | FTS_XDEV, nullptr);

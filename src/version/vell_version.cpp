@@ -1,5 +1,7 @@
 #include "version/vell_version.h"
 
+#include "version/vell_regex.h"
+
 #include <err.h>
 #include <regex>
 #include <stdexcept>
@@ -11,9 +13,8 @@ namespace {
 constexpr std::size_t match_entries = 5;
 
 // Built once per process: the program runs at every boot.
-const std::regex& version_pattern() {
-    static const std::regex pattern("([0-9]+)([a-z]+)(?:\\.([0-9]+))?(?:\\.([0-9]+))?",
-                                    std::regex::ECMAScript);
+const vell_regex& version_pattern() {
+    static const vell_regex pattern(vell_patterns::version, vell_regex::ECMAScript);
     return pattern;
 }
 
