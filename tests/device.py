@@ -100,10 +100,8 @@ def apply(changes):
 def two_icu_files(folder):
     """Puts two matching ICU files in a folder, the one of format 44l listed first."""
     for number in range(45, 99):
-        for names in (
-            ["icutz44l.dat", f"icutz{number}l.dat"],
-            [f"icutz{number}l.dat", "icutz44l.dat"],
-        ):
+        other = f"icutz{number}l.dat"
+        for names in (["icutz44l.dat", other], [other, "icutz44l.dat"]):
             apply([("=", f"{folder}/{name}", "") for name in names])
             if [name for name in os.listdir(folder) if name in names][0] == "icutz44l.dat":
                 return
@@ -144,6 +142,5 @@ def message(text):
 def boot(command):
     """Runs one boot: its exit status and the lines it printed, without the program's name."""
     result = subprocess.run(command, stderr=subprocess.PIPE, text=True, check=False)
-    return result.returncode, [
-        line.removeprefix("tzlinks: ") for line in result.stderr.splitlines()
-    ]
+    lines = result.stderr.splitlines()
+    return result.returncode, [line.removeprefix("tzlinks: ") for line in lines]
