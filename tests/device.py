@@ -127,8 +127,9 @@ def arrange(row):
     """Makes the sound device with a row's changes; the state of every path the row names."""
     for top in ("/var", "/usr/share"):
         apply([("-", f"{top}/{entry}", "") for entry in os.listdir(top)])
-    apply(tokens(SOUND) + tokens(row.changes))
-    named = [path for _, path, _ in tokens(row.changes) + tokens(row.effects)]
+    changes = tokens(row.changes)
+    apply(tokens(SOUND) + changes)
+    named = [path for _, path, _ in changes + tokens(row.effects)]
     return {path: state(path) for path in FIXED + named}
 
 
