@@ -1,8 +1,6 @@
 #!/usr/bin/env python3
-"""Boots tzlinks on the device states of the boot tables; how, in docs/HACKING.md.
-
-Inside tests/device-root: boots.py --boots|--faults|--crashes PROGRAM PREFIX(an emulator) TABLE...
-"""
+"""Boots tzlinks on the boot tables' device states (docs/HACKING.md), inside tests/device-root:
+boots.py --boots|--faults|--crashes PROGRAM PREFIX(an emulator, or empty) TABLE..."""
 
 import collections
 import errno
@@ -15,9 +13,8 @@ import sys
 import tempfile
 
 T = "/var/db/timezone/"
-RECORD = T + "TZVersionDiffRecord"
 # Every path a boot may change: compared after every boot.
-FIXED = [T + "zoneinfo", T + "icutz", T + "localtime", T + "needs_cleanup", RECORD]
+FIXED = [T + f for f in ("zoneinfo", "icutz", "localtime", "needs_cleanup", "TZVersionDiffRecord")]
 FIXED += ["/var/db/icutz", "/var/db/icu"]
 # NAME or NAME:VALUE[,FORMAT] in a row's changes stands for these changes.
 MACROS = {
@@ -51,8 +48,7 @@ WORDS = {
 
 
 def read_rows(tables):
-    """The rows of the tables as [name, changes, messages, effects, status]; a line that starts
-    with a blank goes on with the row above it."""
+    """The tables' rows as [name, changes, messages, effects, status], indented lines joined."""
     text = ""
     for table in tables:
         with open(table, encoding="utf-8") as file:
@@ -137,9 +133,8 @@ def messages(text):
 def boot(command):
     """Runs one boot: its exit status and the lines it printed, without the program's name."""
     result = subprocess.run(command, stderr=subprocess.PIPE, text=True, check=False)
-    return result.returncode, [
-        line.removeprefix("tzlinks: ") for line in result.stderr.splitlines()
-    ]
+    said = [line.removeprefix("tzlinks: ") for line in result.stderr.splitlines()]
+    return result.returncode, said
 
 
 def check(command, row):
@@ -149,14 +144,11 @@ def check(command, row):
     wrong = {path: state(path) for path in wanted if state(path) != wanted[path]}
     if (status, said, wrong) == (int(row[4] or 0), messages(row[2]), {}):
         return []
-    return [
-        f"{row[0]}: status {status}, printed {said}\n  wanted {messages(row[2])}\n  left {wrong}"
-    ]
+    return [f"{row[0]}: status {status}, said {said}\n  not {messages(row[2])}\n  left {wrong}"]
 
 
 def traced(command, inject=()):
-    """A boot under strace with faults injected: its exit status, and its calls on /var and
-    /usr/share as (call, nth call of that name, line)."""
+    """A boot under strace: its status and calls on the device as (call, nth of its name, line)."""
     with tempfile.NamedTemporaryFile("r") as trace:
         options = ["-qq", "-y", "-o", trace.name, "-E", "ASAN_OPTIONS=detect_leaks=0", *inject]
         status = boot(["strace", *options, *command])[0]
@@ -174,29 +166,21 @@ def changes_disk(line):
     return re.match(r"(unlink|symlink|write)", line) or re.search("O_CREAT|O_TRUNC", line)
 
 
-def snapshot():
-    """The state of every path a boot may change."""
-    return {path: state(path) for path in FIXED}
-
-
 def scenario(command, row, errors):
-    """Boots a row's device with each error at each call, or without errors with a crash at each
-    disk change, then once more: that boot must heal it. The problems found."""
+    """Each error at each call, or a crash at each disk change, then a boot that must heal it."""
     before = arrange(row)
-    calls, refs = traced(command)[1], [snapshot()]
-    traced(command)
-    refs.append(snapshot())  # what one or two boots without a fault leave
+    calls, refs = traced(command)[1], [{path: state(path) for path in FIXED}]
+    traced(command)  # what one or two boots without a fault leave
+    refs.append({path: state(path) for path in FIXED})
     points = [(call, f"error={error}") for call in calls for error in errors]
     points = points or [(call, "signal=KILL") for call in calls if changes_disk(call[2])]
     problems = []
     for (name, nth, line), what in points:
         arrange(row)
         status = traced(command, [f"-einject={name}:{what}:when={nth}"])[0]
-        if status not in ((-9,) if "KILL" in what else (0, 1)):
-            problems.append(f"{row[0]}: {what} at {line}: status {status}")
-        if boot(command)[0] != 0:
-            problems.append(f"{row[0]}: {what} at {line}: the boot after it failed")
-        after = snapshot()
+        if status not in ((-9,) if "KILL" in what else (0, 1)) or boot(command)[0] != 0:
+            problems.append(f"{row[0]}: {what} at {line}: status {status}, or the next boot failed")
+        after = {path: state(path) for path in FIXED}
         wrong = [p for p in FIXED if after[p] not in (refs[0][p], refs[1][p])]
         if [path for path in wrong if not window(path, after, line, before)]:
             problems.append(f"{row[0]}: not healed after {what} at {line}: {after}")
@@ -207,7 +191,7 @@ def scenario(command, row, errors):
 def window(path, after, hit, before):
     """Whether a path's state is one that a fault or crash at this call may leave for good."""
     in_use = re.fullmatch(f">{T}tz/(.*)/zoneinfo", after[T + "zoneinfo"])
-    if path == RECORD:
+    if path == FIXED[4]:  # the record
         return after[path] in ("-", "=") or bool(in_use) and after[path].endswith("_" + in_use[1])
     if path == T + "localtime":
         reset = after[path] == f">{T}zoneinfo/America/Los_Angeles"

@@ -1,25 +1,18 @@
 # The start-up sequence: its shapes of run and their order, link resolution, exit status
 *links never made || -zoneinfo -localtime || Bad zoneinfo link : ENOENT | INVALID | LOCALTIME
     || system default
-zoneinfo missing, update activated || -zoneinfo latest:9d || Bad zoneinfo link : ENOENT | INVALID
-    || use:9d rec:9c.1.0_9d
+no zoneinfo || -zoneinfo latest:9d || Bad zoneinfo link : ENOENT | INVALID || use:9d rec:9c.1.0_9d
 zoneinfo names an update folder itself || zoneinfo>@9d || Bad zoneinfo link @9d | INVALID || system
-zoneinfo names an update with a trailing slash || zoneinfo>@9d/ || ||
 zoneinfo names a file deeper in an update || zoneinfo>@9d/zoneinfo/UTC || UNPARSED 9d/zoneinfo
     | NOSCHEMA @9d/zoneinfo: 0 | INCOMPAT || system marker
-zoneinfo names a one-letter update || zoneinfo>@x/ || UNPARSED x | NOSCHEMA @x: 0 | INCOMPAT
-    || system marker
-zoneinfo with an empty folder name || zoneinfo>@/zoneinfo || Bad zoneinfo link @/zoneinfo | INVALID
-    || system
+one-letter update || zoneinfo>@x/ || UNPARSED x | NOSCHEMA @x: 0 | INCOMPAT || system marker
+empty update name || zoneinfo>@/zoneinfo || Bad zoneinfo link @/zoneinfo | INVALID || system
 zoneinfo names the system data with a slash || zoneinfo>~zoneinfo.default/
     || Bad zoneinfo link ~zoneinfo.default/ | INVALID || system
 zoneinfo a plain file || zoneinfo=x || read_symlink: $zoneinfo: EINVAL | INVALID || system
-*tz_latest is read before zoneinfo || -zoneinfo tz_latest=x || read_symlink: $tz_latest: EINVAL
-    | LOCATE || system
-tz_latest outside the tz folder || tz_latest>9d || vell_dataset::create_components: bad path 9d
-    | LOCATE ||
-tz_latest names the tz folder || tz_latest>$tz/ || vell_dataset::create_components: bad path $tz/
-    | LOCATE ||
+*tz_latest first || -zoneinfo tz_latest=x || read_symlink: $tz_latest: EINVAL | LOCATE || system
+tz_latest outside tz/ || tz_latest>9d || vell_dataset::create_components: bad path 9d | LOCATE ||
+tz_latest is tz/ || tz_latest>$tz/ || vell_dataset::create_components: bad path $tz/ | LOCATE ||
 tz_latest with a trailing slash || latest:9d/ || UNPARSED 9d/ | NOTNEWER 9d/ vs. 9c.1.0 ||
 current version too large to convert || zoneinfo>@9a.2147483648/zoneinfo || LOCATE || system
 latest too large: the update in use is left || use:9d latest:9f.4294967296 || LOCATE || system

@@ -6,4 +6,3 @@ letters as text: a later one is newer || update:9bz latest:9bz || NOTNEWER 9bz v
 the first number before the second || update:9c.0.9 latest:9c.0.9 || NOTNEWER 9c.0.9 vs. 9c.1.0 ||
 a newer second number || update:9c.1.1 latest:9c.1.1 || || use:9c.1.1 rec:9c.1.0_9c.1.1
 no number is older than any || update:9c.1 latest:9c.1 || NOTNEWER 9c.1 vs. 9c.1.0 ||
-leading zeros || update:9c.01.0 use:9c.01.0 || ||
