@@ -78,8 +78,8 @@ def changes(text):
             part = expand(part.format(v=version, f=icu or "44l") if name in MACROS else part)
             match = re.fullmatch(r"(-?)([^=>]*?)(/?)(?:([=>])(.*))?", part, re.S)
             path = match[2] if match[2].startswith("/") else T + match[2]
-            value = (match[5] or "").encode().decode("unicode_escape")
-            parsed.append((match[1] or match[4] or match[3], path, value))
+            content = (match[5] or "").encode().decode("unicode_escape")
+            parsed.append((match[1] or match[4] or match[3], path, content))
     return parsed
 
 
