@@ -5,6 +5,7 @@ boots.py --boots|--faults|--crashes PROGRAM PREFIX(an emulator, or empty) TABLE.
 import collections
 import errno
 import os
+import pathlib
 import re
 import shlex
 import shutil
@@ -28,10 +29,8 @@ MACROS = {
     "release": "~zoneinfo.default/+VERSION={v}",
     "format": "~icu/icutzformat.txt={v}",
 }
-SOUND = (
-    "release:9c ~zoneinfo.default/UTC= format:44l system localtime>$zoneinfo/UTC"
-    " update:9a update:9b update:9d update:9e,46l update:9f update:9g,none"
-)
+SOUND = "release:9c ~zoneinfo.default/UTC= format:44l system localtime>$zoneinfo/UTC"
+SOUND += " update:9a update:9b update:9d update:9e,46l update:9f update:9g,none"
 # Words that stand for the program's longer messages.
 WORDS = {
     "INCOMPAT": "Symlink points at data incompatible with installed system",
@@ -45,15 +44,15 @@ WORDS = {
     "NOZONEINFO": "remove: could not remove $zoneinfo: EISDIR | Unlink of zoneinfo softlink failed"
     " | create_symlink: from $zoneinfo to ~zoneinfo.default: EEXIST",
 }
+# The calls that change the disk: a crash at each must heal.
+DISK = r"^(unlink|symlink|write)|O_CREAT|O_TRUNC"
+UNPARSED = r"Cannot parse version string \1, results.size() = 0 | Cannot parse version string \1"
 
 
 def read_rows(tables):
     """The tables' rows as [name, changes, messages, effects, status], indented lines joined."""
-    text = ""
-    for table in tables:
-        with open(table, encoding="utf-8") as file:
-            text += "\n" + "".join(line for line in file if not line.startswith("#"))
-    lines = re.sub(r"\n[ \t]+", " ", text).split("\n")
+    text = "\n".join(pathlib.Path(table).read_text(encoding="utf-8") for table in tables)
+    lines = re.sub(r"\n[ \t]+", " ", re.sub(r"(?m)^#.*\n", "", text)).split("\n")
     return [(re.split(r"\s*\|\|\s*", line) + [""] * 4)[:5] for line in lines if line.strip()]
 
 
@@ -61,10 +60,7 @@ def expand(text):
     """A row's text with {TEXTxN} repeated, its words and path abbreviations spelt out."""
     text = re.sub(r"\{(.+?)x(\d+)\}", lambda m: m[1] * int(m[2]), text)
     text = re.sub(r"\b[A-Z]{5,}\b", lambda m: WORDS.get(m[0], m[0]), text)
-    unparsed = (
-        r"Cannot parse version string \1, results.size() = 0 | Cannot parse version string \1"
-    )
-    text = re.sub(r"UNPARSED ([^ |]*)", unparsed, text)
+    text = re.sub(r"UNPARSED ([^ |]*)", UNPARSED, text)
     return text.replace("@", T + "tz/").replace("$", T).replace("~", "/usr/share/")
 
 
@@ -96,8 +92,7 @@ def apply(wanted):
             os.symlink(value, path)
         if operation == "=":
             text, _, mode = value.partition("%")
-            with open(path, "w", encoding="utf-8") as file:
-                file.write(text)
+            pathlib.Path(path).write_text(text, encoding="utf-8")
             os.chmod(path, int(mode or "644", 8))
 
 
@@ -108,8 +103,8 @@ def state(path):
     if not os.path.isfile(path):
         return "/" if os.path.isdir(path) else "-"
     mode = os.stat(path).st_mode & 0o7777
-    with open(path, encoding="utf-8") as file:
-        return "=" + file.read() + ("" if mode == 0o644 else f"%{mode:o}")
+    text = pathlib.Path(path).read_text(encoding="utf-8")
+    return "=" + text + ("" if mode == 0o644 else f"%{mode:o}")
 
 
 def arrange(row):
@@ -161,11 +156,6 @@ def traced(command, inject=()):
     return status, calls
 
 
-def changes_disk(line):
-    """Whether a traced call changes the disk."""
-    return re.match(r"(unlink|symlink|write)", line) or re.search("O_CREAT|O_TRUNC", line)
-
-
 def scenario(command, row, errors):
     """Each error at each call, or a crash at each disk change, then a boot that must heal it."""
     before = arrange(row)
@@ -173,7 +163,7 @@ def scenario(command, row, errors):
     traced(command)  # what one or two boots without a fault leave
     refs.append({path: state(path) for path in FIXED})
     points = [(call, f"error={error}") for call in calls for error in errors]
-    points = points or [(call, "signal=KILL") for call in calls if changes_disk(call[2])]
+    points = points or [(call, "signal=KILL") for call in calls if re.search(DISK, call[2])]
     problems = []
     for (name, nth, line), what in points:
         arrange(row)
@@ -215,9 +205,9 @@ def main():
             problems += check(command, row)
         elif row[0].startswith("*"):
             problems += scenario(command, row, errors if mode == "--faults" else [])
-    for problem in problems:
-        print("FAIL", problem)
-    print(f"{len(rows)} rows, {len(problems)} failures")
+    print(
+        *[f"FAIL {problem}" for problem in problems], f"{len(rows)} rows, {len(problems)} failures"
+    )
     sys.exit(1 if problems else 0)
 
 
