@@ -205,9 +205,9 @@ def main():
             problems += check(command, row)
         elif row[0].startswith("*"):
             problems += scenario(command, row, errors if mode == "--faults" else [])
-    print(
-        *[f"FAIL {problem}" for problem in problems], f"{len(rows)} rows, {len(problems)} failures"
-    )
+    for problem in problems:
+        print("FAIL", problem)
+    print(f"{len(rows)} rows, {len(problems)} failures")
     sys.exit(1 if problems else 0)
 
 
