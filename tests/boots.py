@@ -136,7 +136,7 @@ def check(command, row):
     """Boots a row's device once; what differs from what the row expects, if anything."""
     wanted = arrange(row) | {path: op + value for op, path, value in changes(row[3])}
     status, said = boot(command)
-    wrong = {path: state(path) for path in wanted if state(path) != wanted[path]}
+    wrong = {path: now for path in wanted if (now := state(path)) != wanted[path]}
     if (status, said, wrong) == (int(row[4] or 0), messages(row[2]), {}):
         return []
     return [f"{row[0]}: status {status}, said {said}\n  not {messages(row[2])}\n  left {wrong}"]
@@ -160,7 +160,7 @@ def scenario(command, row, errors):
     """Each error at each call, or a crash at each disk change, then a boot that must heal it."""
     before = arrange(row)
     calls, refs = traced(command)[1], [{path: state(path) for path in FIXED}]
-    traced(command)  # what one or two boots without a fault leave
+    boot(command)  # what one or two boots without a fault leave
     refs.append({path: state(path) for path in FIXED})
     points = [(call, f"error={error}") for call in calls for error in errors]
     points = points or [(call, "signal=KILL") for call in calls if re.search(DISK, call[2])]
