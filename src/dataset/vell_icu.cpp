@@ -9,14 +9,46 @@
 #include <err.h>
 #include <fstream>
 #include <fts.h>
+#include <memory>
 #include <regex>
 #include <sys/stat.h>
 
 namespace {
 
-const vell_regex& data_file_pattern() {
+struct walk_closer {
+    void operator()(FTS* walk) const { fts_close(walk); }
+};
+
+// The format named by the first readable data file directly inside folder, in the folder's
+// own order; empty when there is none. The walk is closed however this returns.
+std::string format_in(const std::string& folder) {
     static const vell_regex pattern(vell_patterns::icu_data_file, vell_regex::ECMAScript);
-    return pattern;
+    std::string root = folder;
+    char* roots[] = {root.data(), nullptr};
+    const std::unique_ptr<FTS, walk_closer> walk(
+        fts_open(roots, FTS_COMFOLLOW | FTS_PHYSICAL | FTS_XDEV, nullptr));
+    if (!walk) {
+        const int error = errno;
+        warn("tz_icu::initialize: fts_open of %s failed, %s", folder.c_str(), strerror(error));
+        throw error;
+    }
+    while (FTSENT* entry = fts_read(walk.get())) {
+        if (entry->fts_level == 1 && entry->fts_info == FTS_D) {
+            // Only direct children can name the format; nothing below them is looked at.
+            fts_set(walk.get(), entry, FTS_SKIP);
+            continue;
+        }
+        if (entry->fts_errno != 0 || entry->fts_level != 1 || entry->fts_namelen == 0 ||
+            entry->fts_info != FTS_F || (entry->fts_statp->st_mode & S_IROTH) == 0) {
+            continue;
+        }
+        const std::string name(entry->fts_name, entry->fts_namelen);
+        std::smatch match;
+        if (std::regex_match(name, match, pattern)) {
+            return match[1].str();
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -34,35 +66,8 @@ void vell_icu::initialize() {
         file >> schema;
         return;
     }
-
     // An update names its format in the name of its data file.
-    const vell_regex& pattern = data_file_pattern();
-    std::string root = path;
-    char* roots[] = {root.data(), nullptr};
-    FTS* walk = fts_open(roots, FTS_COMFOLLOW | FTS_PHYSICAL | FTS_XDEV, nullptr);
-    if (walk == nullptr) {
-        const int error = errno;
-        warn("tz_icu::initialize: fts_open of %s failed, %s", path.c_str(), strerror(error));
-        throw error;
-    }
-    while (FTSENT* entry = fts_read(walk)) {
-        if (entry->fts_level == 1 && entry->fts_info == FTS_D) {
-            // Only direct children can name the format; nothing below them is looked at.
-            fts_set(walk, entry, FTS_SKIP);
-            continue;
-        }
-        if (entry->fts_errno != 0 || entry->fts_level != 1 || entry->fts_namelen == 0 ||
-            entry->fts_info != FTS_F || (entry->fts_statp->st_mode & S_IROTH) == 0) {
-            continue;
-        }
-        const std::string name(entry->fts_name, entry->fts_namelen);
-        std::smatch match;
-        if (std::regex_match(name, match, pattern)) {
-            schema = match[1].str();
-            break; // the first matching file wins
-        }
-    }
-    fts_close(walk);
+    schema = format_in(path);
     if (schema.empty()) {
         warn("No ICU schema found for %s", dataset_path.c_str());
     }

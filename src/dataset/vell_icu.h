@@ -14,9 +14,6 @@ class vell_icu final : public vell_dataset_component {
     bool compatible_schema(const vell_dataset_component& other) const override;
     void activate() const override;
 
-    const std::string& get_schema() const { return schema; }
-    const std::string& get_path() const { return path; }
-
   private:
     void initialize();
 

@@ -14,7 +14,6 @@ class vell_zoneinfo final : public vell_dataset_component {
     void activate() const override;
 
     std::string get_version_string() const { return version_string; }
-    const std::string& get_path() const { return path; }
 
   private:
     void read_version();

@@ -4,25 +4,30 @@
 
 namespace vell_platform {
 
-int set_protection_class(int fd, int protection_class) {
+// The data-protection facility is there exactly when <fcntl.h> names its command.
 #ifdef F_SETPROTECTIONCLASS
+
+int set_protection_class(int fd, int protection_class) {
     return ::fcntl(fd, F_SETPROTECTIONCLASS, protection_class);
-#else
-    (void)fd;
-    (void)protection_class;
-    return 0;
-#endif
 }
 
 int open_dprotected(const char* path, int flags, int protection_class, int dp_flags, mode_t mode) {
-#ifdef TZLINKS_HAVE_OPEN_DPROTECTED_NP
     return ::open_dprotected_np(path, flags, protection_class, dp_flags, mode);
-#else
-    // Without protection classes every file is in the unprotected class already.
-    (void)protection_class;
-    (void)dp_flags;
-    return ::open(path, flags, mode);
-#endif
 }
+
+#else
+
+// Without protection classes there is nothing to set, and every file is in the
+// unprotected class already.
+int set_protection_class(int /*fd*/, int /*protection_class*/) {
+    return 0;
+}
+
+int open_dprotected(const char* path, int flags, int /*protection_class*/, int /*dp_flags*/,
+                    mode_t mode) {
+    return ::open(path, flags, mode);
+}
+
+#endif
 
 } // namespace vell_platform
