@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Boots tzlinks on the boot tables' device states (docs/HACKING.md), inside tests/device-root:
+"""Boots tzlinks on the device states of the tables (docs/HACKING.md), inside tests/device-root:
 boots.py --boots|--faults|--crashes PROGRAM PREFIX(an emulator, or empty) TABLE..."""
 
 import collections
+import difflib
 import errno
 import os
 import pathlib
@@ -14,115 +15,72 @@ import sys
 import tempfile
 
 T = "/var/db/timezone/"
-# Every path a boot may change: compared after every boot.
-FIXED = [T + f for f in ("zoneinfo", "icutz", "localtime", "needs_cleanup", "TZVersionDiffRecord")]
+# The paths any boot may change: compared after every boot.
+FIXED = [T + p for p in ("zoneinfo", "icutz", "localtime", "needs_cleanup", "TZVersionDiffRecord")]
 FIXED += ["/var/db/icutz", "/var/db/icu"]
-# NAME or NAME:VALUE[,FORMAT] in a row's changes stands for these changes.
-MACROS = {
-    "system": "zoneinfo>~zoneinfo.default -icutz",
-    "use": "zoneinfo>@{v}/zoneinfo icutz>@{v}/icutz",
-    "latest": "tz_latest>@{v}",
-    "rec": "TZVersionDiffRecord={v}",
-    "marker": "needs_cleanup=",
-    "default": "localtime>$zoneinfo/America/Los_Angeles",
-    "update": "@{v}/zoneinfo/+VERSION={v} @{v}/zoneinfo/UTC= @{v}/icutz/icutz{f}.dat=",
-    "release": "~zoneinfo.default/+VERSION={v}",
-    "format": "~icu/icutzformat.txt={v}",
-}
-SOUND = "release:9c ~zoneinfo.default/UTC= format:44l system localtime>$zoneinfo/UTC"
-SOUND += " update:9a update:9b update:9d update:9e,46l update:9f update:9g,none"
-# Words that stand for the program's longer messages.
-WORDS = {
-    "INCOMPAT": "Symlink points at data incompatible with installed system",
-    "INVALID": "Invalid current symlinks; resetting to system partition",
-    "LOCATE": "Unable to locate data; resetting to system partition",
-    "LOCALTIME": "localtime link invalid; resetting to America/Los_Angeles",
-    "NOTNEWER": "New update not compatible or older version:",
-    "NOSCHEMA": "No ICU schema found for",
-    "CORRECTING": "Correcting localtime link to",
-    "NOICUTZ": "remove: could not remove $icutz: EISDIR | unlink of ICU softlink failed",
-    "NOZONEINFO": "remove: could not remove $zoneinfo: EISDIR | Unlink of zoneinfo softlink failed"
-    " | create_symlink: from $zoneinfo to ~zoneinfo.default: EEXIST",
-}
-# The calls that change the disk: a crash at each must heal.
-DISK = r"^(unlink|symlink|write)|O_CREAT|O_TRUNC"
-UNPARSED = r"Cannot parse version string \1, results.size() = 0 | Cannot parse version string \1"
+Row = collections.namedtuple("Row", "name changes messages effects status")
 
 
-def read_rows(tables):
-    """The tables' rows as [name, changes, messages, effects, status], indented lines joined."""
-    text = "\n".join(pathlib.Path(table).read_text(encoding="utf-8") for table in tables)
-    lines = re.sub(r"\n[ \t]+", " ", re.sub(r"(?m)^#.*\n", "", text)).split("\n")
-    return [(re.split(r"\s*\|\|\s*", line) + [""] * 4)[:5] for line in lines if line.strip()]
+def lines(path):
+    """A table's lines but comments, a line that starts with blanks going on with the one above."""
+    text = re.sub(r"(?m)^#.*\n", "", pathlib.Path(path).read_text(encoding="utf-8"))
+    return [line for line in re.sub(r"\n[ \t]+", " ", text).splitlines() if line.strip()]
 
 
-def expand(text):
-    """A row's text with {TEXTxN} repeated, its words and path abbreviations spelt out."""
-    text = re.sub(r"\{(.+?)x(\d+)\}", lambda m: m[1] * int(m[2]), text)
-    text = re.sub(r"\b[A-Z]{5,}\b", lambda m: WORDS.get(m[0], m[0]), text)
-    text = re.sub(r"UNPARSED ([^ |]*)", UNPARSED, text)
-    return text.replace("@", T + "tz/").replace("$", T).replace("~", "/usr/share/")
+HERE = pathlib.Path(__file__).parent
+# The names that rows use, the sound device among them; what a fault or crash may leave.
+NAMES = dict(line.split(" = ", 1) for line in lines(HERE / "names.t"))
+WINDOWS = [line.split() for line in lines(HERE / "windows.t")]
 
 
-def changes(text):
-    """The changes a row's text lists, as (operation, absolute path, value), macros expanded."""
-    parsed = []
-    for word in shlex.split(text):
+def entries(text):
+    """The (path, state) entries that a row's changes or effects list, names spelt out."""
+    found = []
+    for word in text.split():
         name, _, value = word.partition(":")
-        version, _, icu = value.partition(",")
-        for part in MACROS[name].split() if name in MACROS else [word]:
-            part = expand(part.format(v=version, f=icu or "44l") if name in MACROS else part)
-            match = re.fullmatch(r"(-?)([^=>]*?)(/?)(?:([=>])(.*))?", part, re.S)
-            path = match[2] if match[2].startswith("/") else T + match[2]
-            content = (match[5] or "").encode().decode("unicode_escape")
-            parsed.append((match[1] or match[4] or match[3], path, content))
-    return parsed
+        if name in NAMES:
+            found += entries(NAMES[name].replace("{}", value))
+        else:
+            gone, path, kind, rest = re.fullmatch(r"(-?)(.*?)(/$|[=>]|$)(.*)", word).groups()
+            found.append((path if path[0] == "/" else T + path, "-" if gone else kind + rest))
+    return found
 
 
-def apply(wanted):
-    """Makes the changes on the device, in order: a link, a file, a folder or nothing."""
-    for operation, path, value in wanted:
-        if os.path.isdir(path) and not os.path.islink(path):
-            shutil.rmtree(path)
-        elif os.path.lexists(path):
-            os.unlink(path)
-        if operation != "-":
-            os.makedirs(path if operation == "/" else os.path.dirname(path), exist_ok=True)
-        if operation == ">":
-            os.symlink(value, path)
-        if operation == "=":
-            text, _, mode = value.partition("%")
-            pathlib.Path(path).write_text(text, encoding="utf-8")
-            os.chmod(path, int(mode or "644", 8))
+def make(path, wanted):
+    """Makes a link (>TARGET), a file (=TEXT or =TEXT%MODE), a folder (/) or nothing (-)."""
+    if os.path.isdir(path) and not os.path.islink(path):
+        shutil.rmtree(path)
+    elif os.path.lexists(path):
+        os.unlink(path)
+    if wanted != "-":
+        os.makedirs(path if wanted == "/" else os.path.dirname(path), exist_ok=True)
+    if wanted[0] == ">":
+        os.symlink(wanted[1:], path)
+    if wanted[0] == "=":
+        text, _, mode = wanted[1:].partition("%")
+        pathlib.Path(path).write_text(text, encoding="utf-8")
+        os.chmod(path, int(mode or "644", 8))
 
 
 def state(path):
-    """What is at a path: >TARGET, =TEXT (then %MODE unless 644), / (a folder) or - (nothing)."""
+    """What is at a path, as make() takes it."""
     if os.path.islink(path):
         return ">" + os.readlink(path)
     if not os.path.isfile(path):
         return "/" if os.path.isdir(path) else "-"
     mode = os.stat(path).st_mode & 0o7777
-    text = pathlib.Path(path).read_text(encoding="utf-8")
-    return "=" + text + ("" if mode == 0o644 else f"%{mode:o}")
+    return "=" + pathlib.Path(path).read_text(encoding="utf-8") + f"%{mode:o}".replace("%644", "")
 
 
 def arrange(row):
-    """Makes the sound device with a row's changes; the state of every path the row names."""
+    """Makes the sound device with a row's changes; the state of every path to compare."""
     for top in ("/var", "/usr/share"):
-        apply([("-", f"{top}/{entry}", "") for entry in os.listdir(top)])
-    apply(changes(SOUND) + changes(row[1]))
-    return {path: state(path) for path in FIXED + [c[1] for c in changes(row[1] + " " + row[3])]}
-
-
-def messages(text):
-    """The lines a row's messages stand for; each ends in its errno text, by default the last."""
-    lines, error = [], "ENOENT"
-    for message in filter(None, expand(text).split(" | ")):
-        message, code = re.fullmatch(r"(.*?)(?:: (E[A-Z]+|0))?", message).groups()
-        error = code or error
-        lines.append(f"{message}: {os.strerror(getattr(errno, error, 0))}")
-    return lines
+        for entry in os.listdir(top):
+            make(f"{top}/{entry}", "-")
+    for path, wanted in entries(NAMES["sound"] + " " + row.changes):
+        make(path, wanted)
+    named = [path for path, _ in entries(row.changes + " " + row.effects)]
+    return {path: state(path) for path in FIXED + named}
 
 
 def boot(command):
@@ -133,62 +91,70 @@ def boot(command):
 
 
 def check(command, row):
-    """Boots a row's device once; what differs from what the row expects, if anything."""
-    wanted = arrange(row) | {path: op + value for op, path, value in changes(row[3])}
+    """Boots a row's device once: a diff of what the row expects against what the boot did."""
+    before = arrange(row)
+    wanted = [f"exit status {row.status or 0}"]
+    for message in filter(None, row.messages.split(" | ")):
+        text, code = re.fullmatch(r"(.*): (E[A-Z]+|0)", message).groups()
+        word, _, rest = text.partition(" ")
+        text = " ".join(filter(None, [NAMES[word], rest])) if word in NAMES else text
+        wanted.append(f"{text}: {os.strerror(getattr(errno, code, 0))}")
+    wanted += [f"{path} {now}" for path, now in (before | dict(entries(row.effects))).items()]
     status, said = boot(command)
-    wrong = {path: now for path in wanted if (now := state(path)) != wanted[path]}
-    if (status, said, wrong) == (int(row[4] or 0), messages(row[2]), {}):
-        return []
-    return [f"{row[0]}: status {status}, said {said}\n  not {messages(row[2])}\n  left {wrong}"]
+    done = [f"exit status {status}", *said, *(f"{path} {state(path)}" for path in before)]
+    return list(difflib.unified_diff(wanted, done, "expected", "booted", lineterm=""))
 
 
-def traced(command, inject=()):
-    """A boot under strace: its status and calls on the device as (call, nth of its name, line)."""
+def traced(command, inject):
+    """A boot under strace: its status, and its calls on the device as (name, nth, line)."""
     with tempfile.NamedTemporaryFile("r") as trace:
         options = ["-qq", "-y", "-o", trace.name, "-E", "ASAN_OPTIONS=detect_leaks=0", *inject]
         status = boot(["strace", *options, *command])[0]
-        lines = trace.readlines()
-    calls, seen = [], collections.Counter()
-    for line in lines:  # inject's when= counts every call of the name
-        seen[line.split("(")[0]] += 1
-        if re.search(r'["<](/var/|/usr/share/)', line):
-            calls.append((line.split("(")[0], seen[line.split("(")[0]], line.strip()))
+        calls, seen = [], collections.Counter()
+        for line in trace:  # inject's when= counts every call of the name
+            seen[name := line.split("(")[0]] += 1
+            if re.search(r'["<]/(var|usr/share)/', line):
+                calls.append((name, seen[name], line.strip()))
     return status, calls
 
 
-def scenario(command, row, errors):
-    """Each error at each call, or a crash at each disk change, then a boot that must heal it."""
+def scenario(command, row, what):
+    """A fault or crash at each call in turn, each followed by a boot that must heal it."""
     before = arrange(row)
-    calls, refs = traced(command)[1], [{path: state(path) for path in FIXED}]
+    calls, refs = traced(command, [])[1], [{p: state(p) for p in FIXED}]
     boot(command)  # what one or two boots without a fault leave
-    refs.append({path: state(path) for path in FIXED})
-    points = [(call, f"error={error}") for call in calls for error in errors]
-    points = points or [(call, "signal=KILL") for call in calls if re.search(DISK, call[2])]
+    refs.append({p: state(p) for p in FIXED})
+    if what == "signal=KILL":  # crashes only where the disk changes
+        calls = [c for c in calls if re.search(r"^(unlink|symlink|write)|O_CREAT|O_TRUNC", c[2])]
     problems = []
-    for (name, nth, line), what in points:
+    for name, nth, line in calls:
         arrange(row)
         status = traced(command, [f"-einject={name}:{what}:when={nth}"])[0]
-        if status not in ((-9,) if "KILL" in what else (0, 1)) or boot(command)[0] != 0:
-            problems.append(f"{row[0]}: {what} at {line}: status {status}, or the next boot failed")
-        after = {path: state(path) for path in FIXED}
-        wrong = [p for p in FIXED if after[p] not in (refs[0][p], refs[1][p])]
-        if [path for path in wrong if not window(path, after, line, before)]:
-            problems.append(f"{row[0]}: not healed after {what} at {line}: {after}")
-    print(f"{row[0][1:]}: {len(points)} {'faults' if errors else 'crashes'}")
+        then = boot(command)[0]
+        after = {p: state(p) for p in FIXED}
+        if (
+            status not in ((-9,) if "KILL" in what else (0, 1))
+            or then
+            or not all(healed(path, after, before, line, refs) for path in FIXED)
+        ):
+            problems.append(f"{row.name}: {what} at {line}: status {status}, then {after}")
+    print(f"{row.name[1:]}: {what} at {len(calls)} calls")
     return problems
 
 
-def window(path, after, hit, before):
-    """Whether a path's state is one that a fault or crash at this call may leave for good."""
-    in_use = re.fullmatch(f">{T}tz/(.*)/zoneinfo", after[T + "zoneinfo"])
-    if path == FIXED[4]:  # the record
-        return after[path] in ("-", "=") or bool(in_use) and after[path].endswith("_" + in_use[1])
-    if path == T + "localtime":
-        reset = after[path] == f">{T}zoneinfo/America/Los_Angeles"
-        return reset and re.search(f'["<]{T}(localtime|zoneinfo/)', hit) is not None
-    left = after[path] in (before[path], before["/var/db/icutz"], "-")
-    named = left and re.search(f'["<]({T}|/var/db/)icutz', hit) is not None
-    return path == T + "icutz" and (not in_use and after[path] == "-" or named)
+def healed(path, after, before, line, refs):
+    """Whether a path is as one or two boots without a fault leave it, or in a window."""
+    if after[path] in (refs[0][path], refs[1][path]):
+        return True
+    use = re.fullmatch(f">{T}tz/(.*)/zoneinfo", after[T + "zoneinfo"])
+    if not use and (path, after[path]) == (T + "icutz", "-"):
+        return True  # no ICU link while the system partition is in use
+    fills = {"{use}": re.escape(use[1]) if use else "-", "{before}": re.escape(before[path])}
+    for place, left, call in WINDOWS:
+        left = re.sub("{use}|{before}", lambda m: fills[m[0]], left)
+        if T + place == path and re.search(call, line) and re.fullmatch(left, after[path]):
+            return True
+    return False
 
 
 def main():
@@ -198,17 +164,21 @@ def main():
     mode, program, prefix, *tables = sys.argv[1:]
     command = shlex.split(prefix) + [os.path.abspath(program), "ignored"]
     errors = ["EIO"] if "TZLINKS_RELIABILITY_QUICK" in os.environ else ["EIO", "ENOENT"]
+    kinds = {"--faults": [f"error={e}" for e in errors], "--crashes": ["signal=KILL"]}
     os.umask(0o022)
-    rows, problems = read_rows(tables), []
+    fields = [re.split(r"\s*\|\|\s*", line) + [""] * 4 for table in tables for line in lines(table)]
+    rows = [Row(*row[:5]) for row in fields]
+    failed = 0
     for row in rows:
-        if mode == "--boots":
-            problems += check(command, row)
-        elif row[0].startswith("*"):
-            problems += scenario(command, row, errors if mode == "--faults" else [])
-    for problem in problems:
-        print("FAIL", problem)
-    print(f"{len(rows)} rows, {len(problems)} failures")
-    sys.exit(1 if problems else 0)
+        if mode == "--boots" and (diff := check(command, row)):
+            print(f"FAIL {row.name}", *diff, sep="\n")
+            failed += 1
+        for what in kinds.get(mode, []) if row.name.startswith("*") else []:
+            for problem in scenario(command, row, what):
+                print(f"FAIL {problem}")
+                failed += 1
+    print(f"{len(rows)} rows, {failed} failures")
+    sys.exit(1 if failed else 0)
 
 
 if __name__ == "__main__":
