@@ -132,11 +132,8 @@ def scenario(command, row, what):
         status = traced(command, [f"-einject={name}:{what}:when={nth}"])[0]
         then = boot(command)[0]
         after = {p: state(p) for p in FIXED}
-        if (
-            status not in ((-9,) if "KILL" in what else (0, 1))
-            or then
-            or not all(healed(path, after, before, line, refs) for path in FIXED)
-        ):
+        ended = status in ((-9,) if "KILL" in what else (0, 1)) and not then
+        if not ended or not all(healed(path, after, before, line, refs) for path in FIXED):
             problems.append(f"{row.name}: {what} at {line}: status {status}, then {after}")
     print(f"{row.name[1:]}: {what} at {len(calls)} calls")
     return problems

@@ -1,6 +1,5 @@
-# The names that rows use. A name in a row's changes or effects stands for its entries, with {}
-# filled in from NAME:VALUE; a name that begins a message stands for its text. Every row starts
-# from the sound device, `sound`, and makes its changes to it.
+# The names rows use: in changes or effects, NAME:VALUE stands for its entries with {} filled in;
+# at the start of a message, for its text. Every row makes its changes to the device `sound`.
 sound = release:9c /usr/share/zoneinfo.default/UTC= format:44l system
     localtime>/var/db/timezone/zoneinfo/UTC update:9a update:9b update:9d update:9f
     tz/9e/zoneinfo/UTC= tz/9e/icutz/icutz46l.dat= tz/9g/zoneinfo/UTC= tz/9g/icutz/icutznone.dat=

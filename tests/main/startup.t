@@ -1,6 +1,6 @@
 # The start-up sequence: its shapes of run, link resolution and exit status
-*heals: a first boot, no links || -zoneinfo -localtime
-    || Bad zoneinfo link : ENOENT | INVALID: ENOENT | LOCALTIME: ENOENT || system default
+*heals: a first boot, no links || -zoneinfo -localtime || Bad zoneinfo link : ENOENT
+    | INVALID: ENOENT | LOCALTIME: ENOENT || system default
 a stale marker goes || marker || || -needs_cleanup
 an empty update name || zoneinfo>/var/db/timezone/tz//zoneinfo
     || Bad zoneinfo link /var/db/timezone/tz//zoneinfo: ENOENT | INVALID: ENOENT || system
@@ -20,7 +20,7 @@ zoneinfo a folder: no reset can succeed
     | Unlink of zoneinfo softlink failed: EISDIR
     | create_symlink: from /var/db/timezone/zoneinfo to /usr/share/zoneinfo.default: EEXIST
     | reset_to_system_partition failed: EEXIST || || 1
-system version too large: no fallback, localtime still made || use:9d release:99999999999a
-    -localtime || LOCATE: ENOENT | reset_to_system_partition failed: ENOENT | LOCALTIME: ENOENT
-    || default || 1
+system version too large: no fallback, localtime still made
+    || use:9d release:99999999999a -localtime || LOCATE: ENOENT
+    | reset_to_system_partition failed: ENOENT | LOCALTIME: ENOENT || default || 1
 legacy /var/db/icu folder goes when empty || /var/db/icu/ || || -/var/db/icu
