@@ -16,7 +16,7 @@
 namespace {
 
 struct walk_closer {
-    void operator()(FTS* walk) const { fts_close(walk); }
+    void operator()(FTS* walk) const { static_cast<void>(fts_close(walk)); }
 };
 
 // The format named by the first readable data file directly inside folder, in the folder's
@@ -33,11 +33,7 @@ std::string format_in(const std::string& folder) {
         throw error;
     }
     while (FTSENT* entry = fts_read(walk.get())) {
-        if (entry->fts_level == 1 && entry->fts_info == FTS_D) {
-            // Only direct children can name the format; nothing below them is looked at.
-            fts_set(walk.get(), entry, FTS_SKIP);
-            continue;
-        }
+        // Only a readable regular file directly inside the folder can name the format.
         if (entry->fts_errno != 0 || entry->fts_level != 1 || entry->fts_namelen == 0 ||
             entry->fts_info != FTS_F || (entry->fts_statp->st_mode & S_IROTH) == 0) {
             continue;

@@ -14,7 +14,7 @@ void protect_directory(const std::string& path) {
         return; // a missing directory is left alone
     }
     vell_platform::set_protection_class(fd, vell_platform::unprotected_class);
-    ::close(fd);
+    static_cast<void>(::close(fd)); // a read-only descriptor: nothing is lost
 }
 
 void protect_directories() {

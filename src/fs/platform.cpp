@@ -7,8 +7,8 @@ namespace vell_platform {
 // The data-protection facility is there exactly when <fcntl.h> names its command.
 #ifdef F_SETPROTECTIONCLASS
 
-int set_protection_class(int fd, int protection_class) {
-    return ::fcntl(fd, F_SETPROTECTIONCLASS, protection_class);
+void set_protection_class(int fd, int protection_class) {
+    static_cast<void>(::fcntl(fd, F_SETPROTECTIONCLASS, protection_class));
 }
 
 int open_dprotected(const char* path, int flags, int protection_class, int dp_flags, mode_t mode) {
@@ -19,9 +19,7 @@ int open_dprotected(const char* path, int flags, int protection_class, int dp_fl
 
 // Without protection classes there is nothing to set, and every file is in the
 // unprotected class already.
-int set_protection_class(int /*fd*/, int /*protection_class*/) {
-    return 0;
-}
+void set_protection_class(int /*fd*/, int /*protection_class*/) {}
 
 int open_dprotected(const char* path, int flags, int /*protection_class*/, int /*dp_flags*/,
                     mode_t mode) {

@@ -10,9 +10,9 @@ namespace vell_platform {
 // The class without data protection.
 inline constexpr int unprotected_class = 4;
 
-// Sets the protection class of the directory open on fd. The result is for the
-// caller to ignore; without the facility there is nothing to set.
-int set_protection_class(int fd, int protection_class);
+// Sets the protection class of the directory open on fd, if it can; a failure changes
+// nothing the program needs. Without the facility there is nothing to set.
+void set_protection_class(int fd, int protection_class);
 
 // Creates or opens path in the given protection class, as open_dprotected_np does.
 // Returns a descriptor, or a negative value with errno set.

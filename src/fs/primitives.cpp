@@ -10,12 +10,15 @@ namespace {
 constexpr std::size_t max_target = 1024;
 } // namespace
 
+// warn(3) may change errno: the failing call's is read first.
+
 void remove(const std::string& path) {
     if (::unlink(path.c_str()) == 0 || errno == ENOENT) {
         return;
     }
+    const int error = errno;
     warn("remove: could not remove %s", path.c_str());
-    throw errno;
+    throw error;
 }
 
 bool exists(const std::string& path) {
@@ -29,8 +32,9 @@ std::string read_symlink(const std::string& path) {
         if (errno == ENOENT) {
             return {};
         }
+        const int error = errno;
         warn("read_symlink: %s", path.c_str());
-        throw errno;
+        throw error;
     }
     buffer[count] = '\0';
     return buffer;
@@ -40,8 +44,9 @@ void create_symlink(const std::string& target, const std::string& link_path) {
     if (::symlink(target.c_str(), link_path.c_str()) == 0) {
         return;
     }
+    const int error = errno;
     warn("create_symlink: from %s to %s", link_path.c_str(), target.c_str());
-    throw errno;
+    throw error;
 }
 
 } // namespace vell_fs
