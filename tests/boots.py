@@ -2,56 +2,62 @@
 """Boots tzlinks on the device states of the tables (docs/HACKING.md), inside tests/device-root:
 boots.py --boots|--faults|--crashes PROGRAM PREFIX(an emulator, or empty) TABLE..."""
 
-import collections
 import difflib
 import errno
 import os
 import pathlib
 import re
-import shlex
-import shutil
 import subprocess
 import sys
-import tempfile
 
 T = "/var/db/timezone/"
 # The paths any boot may change: compared after every boot.
 FIXED = [T + p for p in ("zoneinfo", "icutz", "localtime", "needs_cleanup", "TZVersionDiffRecord")]
 FIXED += ["/var/db/icutz", "/var/db/icu"]
-Row = collections.namedtuple("Row", "name changes messages effects status")
+# The line the manual promises when one of these calls fails, made from the call's own text.
+PROMISED = {
+    r'^unlink\("(/var/db/(timezone/)?(zoneinfo|icutz))"': r"remove: could not remove \1",
+    r'^readlink\("([^"]*)"': r"read_symlink: \1",
+    r'^symlink\("([^"]*)", "([^"]*)"': r"create_symlink: from \2 to \1",
+    r"^(openat|newfstatat|close)\(.*/needs_cleanup\b": f"Cannot touch file {T}needs_cleanup",
+}
+DISK = r"^(unlink|symlink|write)|O_CREAT|O_TRUNC"  # the calls that change the disk
 
 
 def lines(path):
-    """A table's lines but comments, a line that starts with blanks going on with the one above."""
+    """A table's lines but comments, joined to those that go on with blanks; X{N} is N times X."""
     text = re.sub(r"(?m)^#.*\n", "", pathlib.Path(path).read_text(encoding="utf-8"))
-    return [line for line in re.sub(r"\n[ \t]+", " ", text).splitlines() if line.strip()]
+    text = re.sub(r"(.)\{(\d+)\}", lambda m: m[1] * int(m[2]), re.sub(r"\n[ \t]+", " ", text))
+    return [line for line in text.splitlines() if line.strip()]
 
 
-HERE = pathlib.Path(__file__).parent
-# The names that rows use, the sound device among them; what a fault or crash may leave.
-NAMES = dict(line.split(" = ", 1) for line in lines(HERE / "names.t"))
-WINDOWS = [line.split() for line in lines(HERE / "windows.t")]
+NAMES = dict(line.split(" = ", 1) for line in lines(pathlib.Path(__file__).with_name("names.t")))
+WINDOWS = [line.split(None, 2) for line in lines(pathlib.Path(__file__).with_name("windows.t"))]
+
+
+def spelt(text, separator):
+    """The items of a row's field, NAME:VALUE spelt out as NAME's items with {} filled in."""
+    found = []
+    for item in filter(None, text.split(separator)):
+        name, _, value = item.partition(":")
+        found += spelt(NAMES[name].replace("{}", value), separator) if name in NAMES else [item]
+    return found
 
 
 def entries(text):
-    """The (path, state) entries that a row's changes or effects list, names spelt out."""
+    """The (path, state) entries of a row's changes or effects; a file's text takes \\ escapes."""
     found = []
-    for word in text.split():
-        name, _, value = word.partition(":")
-        if name in NAMES:
-            found += entries(NAMES[name].replace("{}", value))
-        else:
-            gone, path, kind, rest = re.fullmatch(r"(-?)(.*?)(/$|[=>]|$)(.*)", word).groups()
-            found.append((path if path[0] == "/" else T + path, "-" if gone else kind + rest))
+    for word in spelt(text, " "):
+        gone, path, kind, rest = re.fullmatch(r"(-?)(.*?)(/$|[=>]|$)(.*)", word).groups()
+        rest = rest.encode().decode("unicode_escape")
+        found.append((path if path[0] == "/" else T + path, "-" if gone else kind + rest))
     return found
 
 
 def make(path, wanted):
     """Makes a link (>TARGET), a file (=TEXT or =TEXT%MODE), a folder (/) or nothing (-)."""
-    if os.path.isdir(path) and not os.path.islink(path):
-        shutil.rmtree(path)
-    elif os.path.lexists(path):
-        os.unlink(path)
+    if os.path.lexists(path):
+        subprocess.run(["rm", "-rf", path], check=True)
     if wanted != "-":
         os.makedirs(path if wanted == "/" else os.path.dirname(path), exist_ok=True)
     if wanted[0] == ">":
@@ -77,79 +83,75 @@ def arrange(row):
     for top in ("/var", "/usr/share"):
         for entry in os.listdir(top):
             make(f"{top}/{entry}", "-")
-    for path, wanted in entries(NAMES["sound"] + " " + row.changes):
+    for path, wanted in entries(NAMES["sound"] + " " + row[1]):
         make(path, wanted)
-    named = [path for path, _ in entries(row.changes + " " + row.effects)]
-    return {path: state(path) for path in FIXED + named}
+    return {path: state(path) for path in FIXED + [p for p, _ in entries(row[1] + " " + row[3])]}
 
 
 def boot(command):
-    """Runs one boot: its exit status and the lines it printed, without the program's name."""
+    """One boot: its exit status and its lines, without the program's name."""
     result = subprocess.run(command, stderr=subprocess.PIPE, text=True, check=False)
-    said = [line.removeprefix("tzlinks: ") for line in result.stderr.splitlines()]
-    return result.returncode, said
+    return result.returncode, result.stderr.replace("tzlinks: ", "").splitlines()
 
 
 def check(command, row):
-    """Boots a row's device once: a diff of what the row expects against what the boot did."""
+    """A diff of a row's expectations against a boot; a message naming an errno pins its text."""
     before = arrange(row)
-    wanted = [f"exit status {row.status or 0}"]
-    for message in filter(None, row.messages.split(" | ")):
-        text, code = re.fullmatch(r"(.*): (E[A-Z]+|0)", message).groups()
-        word, _, rest = text.partition(" ")
-        text = " ".join(filter(None, [NAMES[word], rest])) if word in NAMES else text
-        wanted.append(f"{text}: {os.strerror(getattr(errno, code, 0))}")
-    wanted += [f"{path} {now}" for path, now in (before | dict(entries(row.effects))).items()]
+    wanted = [f"exit status {row[4] or 0}"]
+    for message in spelt(row[2], " | "):
+        text, code = re.fullmatch(r"(.*?)(?:: (E[A-Z]+))?", message).groups()
+        wanted.append(text + (f": {os.strerror(getattr(errno, code))}" if code else ""))
+    wanted += [f"{path} {now}" for path, now in (before | dict(entries(row[3]))).items()]
     status, said = boot(command)
+    said = [line if line in wanted else line.rpartition(": ")[0] for line in said]
     done = [f"exit status {status}", *said, *(f"{path} {state(path)}" for path in before)]
     return list(difflib.unified_diff(wanted, done, "expected", "booted", lineterm=""))
 
 
-def traced(command, inject):
-    """A boot under strace: its status, and its calls on the device as (name, nth, line)."""
-    with tempfile.NamedTemporaryFile("r") as trace:
-        options = ["-qq", "-y", "-o", trace.name, "-E", "ASAN_OPTIONS=detect_leaks=0", *inject]
-        status = boot(["strace", *options, *command])[0]
-        calls, seen = [], collections.Counter()
-        for line in trace:  # inject's when= counts every call of the name
-            seen[name := line.split("(")[0]] += 1
-            if re.search(r'["<]/(var|usr/share)/', line):
-                calls.append((name, seen[name], line.strip()))
-    return status, calls
+def traced(command, inject=()):
+    """A boot under strace: its status, its lines, and its calls on the device (name, nth, line)."""
+    trace = os.environ["TZLINKS_DEVICE_ROOT"] + "/trace"
+    options = ["-qq", "-y", "-o", trace, "-E", "ASAN_OPTIONS=detect_leaks=0", *inject]
+    status, said = boot(["strace", *options, *command])
+    calls, seen = [], {}
+    for line in pathlib.Path(trace).read_text(encoding="utf-8").splitlines():
+        seen[name] = seen.get(name := line.split("(")[0], 0) + 1  # as inject's when= counts
+        if re.search(r'["<]/(var|usr/share)/', line):
+            calls.append((name, seen[name], line))
+    return status, said, calls
 
 
 def scenario(command, row, what):
-    """A fault or crash at each call in turn, each followed by a boot that must heal it."""
+    """A fault or crash at each call, then a boot that must heal it; a fault prints its promise."""
     before = arrange(row)
-    calls, refs = traced(command, [])[1], [{p: state(p) for p in FIXED}]
+    calls = [c for c in traced(command)[2] if what != "signal=KILL" or re.search(DISK, c[2])]
+    refs = [{p: state(p) for p in FIXED}]
     boot(command)  # what one or two boots without a fault leave
     refs.append({p: state(p) for p in FIXED})
-    if what == "signal=KILL":  # crashes only where the disk changes
-        calls = [c for c in calls if re.search(r"^(unlink|symlink|write)|O_CREAT|O_TRUNC", c[2])]
-    problems = []
+    problems = [] if calls else [f"{row[0]}: {what}: no call traced"]
     for name, nth, line in calls:
         arrange(row)
-        status = traced(command, [f"-einject={name}:{what}:when={nth}"])[0]
-        then = boot(command)[0]
-        after = {p: state(p) for p in FIXED}
-        ended = status in ((-9,) if "KILL" in what else (0, 1)) and not then
-        if not ended or not all(healed(path, after, before, line, refs) for path in FIXED):
-            problems.append(f"{row.name}: {what} at {line}: status {status}, then {after}")
-    print(f"{row.name[1:]}: {what} at {len(calls)} calls")
+        status, said = traced(command, [f"-einject={name}:{what}:when={nth}"])[:2]
+        for promise in (m.expand(p) for r, p in PROMISED.items() if (m := re.search(r, line))):
+            if what == "error=EIO" and f"{promise}: {os.strerror(errno.EIO)}" not in said:
+                problems.append(f"{row[0]}: {what} at {line}: no line '{promise}'")
+        then, after = boot(command)[0], {p: state(p) for p in FIXED}
+        ended = status == -9 if what == "signal=KILL" else status in (0, 1)
+        whole = all(healed(p, after, f"{what} {line}", before, refs) for p in FIXED)
+        if not ended or then or not whole:
+            problems.append(f"{row[0]}: {what} at {line}: status {status}, then {after}")
+    print(f"{row[0][1:]}: {what} at {len(calls)} calls")
     return problems
 
 
-def healed(path, after, before, line, refs):
+def healed(path, after, fault, before, refs):
     """Whether a path is as one or two boots without a fault leave it, or in a window."""
+    use = re.fullmatch(f">{T}tz/(.*)/zoneinfo", after[T + "zoneinfo"])
     if after[path] in (refs[0][path], refs[1][path]):
         return True
-    use = re.fullmatch(f">{T}tz/(.*)/zoneinfo", after[T + "zoneinfo"])
-    if not use and (path, after[path]) == (T + "icutz", "-"):
-        return True  # no ICU link while the system partition is in use
-    fills = {"{use}": re.escape(use[1]) if use else "-", "{before}": re.escape(before[path])}
-    for place, left, call in WINDOWS:
-        left = re.sub("{use}|{before}", lambda m: fills[m[0]], left)
-        if T + place == path and re.search(call, line) and re.fullmatch(left, after[path]):
+    for _, left, _ in (w for w in WINDOWS if T + w[0] == path and re.search(w[2], fault)):
+        left = left.replace("{use}", re.escape(use[1]) if use else "-")
+        if re.fullmatch(left.replace("{before}", re.escape(before[path])), after[path]):
             return True
     return False
 
@@ -159,23 +161,18 @@ def main():
     if "TZLINKS_DEVICE_ROOT" not in os.environ:
         sys.exit("boots.py: run me inside tests/device-root: I empty /var and /usr/share")
     mode, program, prefix, *tables = sys.argv[1:]
-    command = shlex.split(prefix) + [os.path.abspath(program), "ignored"]
-    errors = ["EIO"] if "TZLINKS_RELIABILITY_QUICK" in os.environ else ["EIO", "ENOENT"]
-    kinds = {"--faults": [f"error={e}" for e in errors], "--crashes": ["signal=KILL"]}
-    os.umask(0o022)
-    fields = [re.split(r"\s*\|\|\s*", line) + [""] * 4 for table in tables for line in lines(table)]
-    rows = [Row(*row[:5]) for row in fields]
-    failed = 0
+    command = prefix.split() + [os.path.abspath(program), "ignored"]
+    kinds = {"--faults": ["error=EIO", "error=ENOENT"], "--crashes": ["signal=KILL"]}
+    os.umask(0)  # files get the very modes that the program asks for
+    rows = [re.split(r"\s*\|\|\s*", line) + [""] * 4 for table in tables for line in lines(table)]
+    problems = []
     for row in rows:
         if mode == "--boots" and (diff := check(command, row)):
-            print(f"FAIL {row.name}", *diff, sep="\n")
-            failed += 1
-        for what in kinds.get(mode, []) if row.name.startswith("*") else []:
-            for problem in scenario(command, row, what):
-                print(f"FAIL {problem}")
-                failed += 1
-    print(f"{len(rows)} rows, {failed} failures")
-    sys.exit(1 if failed else 0)
+            problems.append("\n".join([row[0], *diff]))
+        for what in kinds.get(mode, []) if row[0].startswith("*") else []:
+            problems += scenario(command, row, what)
+    print(*(f"FAIL {problem}" for problem in problems), f"{len(rows)} rows", sep="\n")
+    sys.exit(1 if problems else 0)
 
 
 if __name__ == "__main__":

@@ -1,6 +1,8 @@
-# The README's "What a fault or crash cannot heal": PATH, a state it may be left in, and a call
-# whose fault or crash may leave it so, as regular expressions. {use}: the update that zoneinfo
-# names; {before}: the path's state before the boot.
-localtime >/var/db/timezone/zoneinfo/America/Los_Angeles /var/db/timezone/(localtime|zoneinfo/)
-icutz -|{before} /var/db/(timezone/)?icutz
-TZVersionDiffRecord -|=|=.*_{use} .
+# What a fault or crash cannot heal: PATH, STATES the boot after may leave, FAULTS (docs/HACKING.md)
+localtime >/var/db/timezone/zoneinfo/America/Los_Angeles "/var/db/timezone/(localtime|zoneinfo/)
+icutz -|{before} KILL (unlink|symlink)\(.*"/var/db/(timezone/)?icutz"
+icutz - error.*(/var/db/(icutz|timezone/(icutz|tz_latest|zoneinfo))"|/usr/share/(icu|zoneinfo\.d))
+TZVersionDiffRecord -|{before} KILL.*(icutz"|needs_cleanup|TZVersionDiffRecord)|openat.*DiffRecord
+TZVersionDiffRecord =%666 write\(.*TZVersionDiffRecord
+TZVersionDiffRecord =9c\.1\.0_{use}%666 zoneinfo"|tz_latest|icutz
+TZVersionDiffRecord =[^_]*_{use}%666 \+VERSION

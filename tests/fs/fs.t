@@ -1,19 +1,20 @@
-# The local-time link
-*heals: a link into the public path, rewritten || localtime>/usr/share/zoneinfo/UTC
-    || CORRECTING /var/db/timezone/zoneinfo/UTC: ENOENT || localtime>/var/db/timezone/zoneinfo/UTC
-the public path, no such zone || localtime>/usr/share/zoneinfo/Mars
-    || CORRECTING /var/db/timezone/zoneinfo/Mars: ENOENT | LOCALTIME: ENOENT || default
-default cannot be made || -localtime localtime/keep=
-    || read_symlink: /var/db/timezone/localtime: EINVAL | LOCALTIME: EINVAL
-    | create_symlink: from /var/db/timezone/localtime to
-    /var/db/timezone/zoneinfo/America/Los_Angeles: EEXIST | correct_localtime_link failed: EEXIST ||
-    || 1
-# A link is read up to 1,024 bytes: the '/' of this zoneinfo link stands at the 1,025th
-pins the 1,024-byte bound || deep
-# The legacy ICU link
-*heals: migrated, target unchanged || /var/db/icutz>timezone/tz ||
+*heals: the legacy ICU link migrated, as it reads || /var/db/icutz>timezone/tz ||
     || icutz>timezone/tz -/var/db/icutz
-removed, present one kept || /var/db/icutz>/var/db icutz>/usr || || -/var/db/icutz
-a folder || /var/db/icutz/ || read_symlink: /var/db/icutz: EINVAL
-    | Could not migrate /var/db/icutz to /var/db/timezone/icutz: EINVAL
-    | remove: could not remove /var/db/icutz: EISDIR | Could not remove /var/db/icutz: EISDIR
+removed, the present one kept || /var/db/icutz>/var/db icutz>/usr || || -/var/db/icutz
+a dangling one left alone || /var/db/icutz>/none ||
+a dangling present one: migration fails || /var/db/icutz>/var/db icutz>/none
+    || create_symlink: from /var/db/timezone/icutz to /var/db: EEXIST | MIGRATE || -/var/db/icutz
+a folder, reported before the decision || /var/db/icutz/ use:9d latest:9d -icutz
+    || read_symlink: /var/db/icutz | MIGRATE | remove: could not remove /var/db/icutz: EISDIR
+    | Could not remove /var/db/icutz | NOTNEWER:9d vs. 9d
+*heals: the public path, after the first boot's reset || -zoneinfo localtime>/usr/share/zoneinfo/UTC
+    || BAD: | INVALID | CORRECTING:/UTC || system localtime>/var/db/timezone/zoneinfo/UTC
+the system's folder is not the public one || localtime>/usr/share/zoneinfo.default/UTC
+    || CORRECTING:.default/UTC | LOCALTIME || default
+kept, whatever follows || localtime>/var/db/timezone/zoneinfoX/Mars ||
+a relative link || localtime>zoneinfo/UTC || LOCALTIME || default
+an empty folder || localtime/ || read_symlink: /var/db/timezone/localtime: EINVAL | LOCALTIME
+    || default
+# A link is read up to 1,024 bytes: this target's 1,024th byte is the '/' its data set ends at
+read up to 1,024 bytes || format: zoneinfo>/var/db/timezone/tz/9d{1002}//zoneinfo
+    || NOSCHEMA:9d{1002}

@@ -1,26 +1,32 @@
 # The start-up sequence: its shapes of run, link resolution and exit status
-*heals: a first boot, no links || -zoneinfo -localtime || Bad zoneinfo link : ENOENT
-    | INVALID: ENOENT | LOCALTIME: ENOENT || system default
-a stale marker goes || marker || || -needs_cleanup
+*heals: a first boot, no links || -zoneinfo -localtime || BAD: | INVALID | LOCALTIME
+    || system default
+no links and an update: both in one boot || -zoneinfo latest:9d || BAD: | INVALID
+    || use:9d rec:9c.1.0_9d
+stale entries go: a marker, /var/db/icu an empty folder || marker /var/db/icu/ ||
+    || -needs_cleanup -/var/db/icu
+/var/db/icu stays when a full folder || /var/db/icu/x= ||
+no tz/: none made || -tz ||
+no /var/db/timezone: no folder made, no link || -/var/db/timezone || BAD: | INVALID
+    | ZONELINK:ENOENT | LOCATE | ZONELINK:ENOENT | reset_to_system_partition failed | LOCALTIME
+    | create_symlink: from /var/db/timezone/localtime to
+    /var/db/timezone/zoneinfo/America/Los_Angeles | correct_localtime_link failed || || 1
 an empty update name || zoneinfo>/var/db/timezone/tz//zoneinfo
-    || Bad zoneinfo link /var/db/timezone/tz//zoneinfo: ENOENT | INVALID: ENOENT || system
-a one-letter update || zoneinfo>/var/db/timezone/tz/x/ || PARSE x, results.size() = 0: ENOENT
-    | PARSE x: ENOENT | NOSCHEMA /var/db/timezone/tz/x: 0 | INCOMPAT: 0 || system marker
-tz_latest is tz/ || tz_latest>/var/db/timezone/tz/
-    || vell_dataset::create_components: bad path /var/db/timezone/tz/: ENOENT | LOCATE: ENOENT
-tz_latest beside tz/ || tz_latest>/var/db/timezone/tzdata/9d
-    || vell_dataset::create_components: bad path /var/db/timezone/tzdata/9d: ENOENT | LOCATE: ENOENT
-zoneinfo a folder: no reset can succeed
-    || icutz>/var/db/timezone/tz/9d/icutz -zoneinfo zoneinfo/UTC=
-    || read_symlink: /var/db/timezone/zoneinfo: EINVAL | INVALID: EINVAL
-    | remove: could not remove /var/db/timezone/zoneinfo: EISDIR
-    | Unlink of zoneinfo softlink failed: EISDIR
-    | create_symlink: from /var/db/timezone/zoneinfo to /usr/share/zoneinfo.default: EEXIST
-    | LOCATE: EEXIST | remove: could not remove /var/db/timezone/zoneinfo: EISDIR
-    | Unlink of zoneinfo softlink failed: EISDIR
-    | create_symlink: from /var/db/timezone/zoneinfo to /usr/share/zoneinfo.default: EEXIST
-    | reset_to_system_partition failed: EEXIST || || 1
-system version too large: no fallback, localtime still made
-    || use:9d release:99999999999a -localtime || LOCATE: ENOENT
-    | reset_to_system_partition failed: ENOENT | LOCALTIME: ENOENT || default || 1
-legacy /var/db/icu folder goes when empty || /var/db/icu/ || || -/var/db/icu
+    || BAD:/var/db/timezone/tz//zoneinfo | INVALID || system
+any last name, even none || zoneinfo>/var/db/timezone/tz/9d/ icutz>/var/db/timezone/tz/9d/icutz ||
+deeper than one folder || zoneinfo>/var/db/timezone/tz/9d/x/zoneinfo
+    || UNPARSED:9d/x | NOSCHEMA:9d/x | INCOMPAT || system marker
+the system's folder with a slash || zoneinfo>/usr/share/zoneinfo.default/
+    || BAD:/usr/share/zoneinfo.default/ | INVALID || system
+tz_latest is tz/ || tz_latest>/var/db/timezone/tz/ || BADPATH:/var/db/timezone/tz/ | LOCATE
+tz_latest relative: not resolved || tz_latest>tz/9d || BADPATH:tz/9d | LOCATE
+tz_latest beside tz/: the update in use left || use:9d tz_latest>/var/db/timezone/tzdata/9d
+    || BADPATH:/var/db/timezone/tzdata/9d | LOCATE || system
+tz_latest a file: no link read after it || zoneinfo>/var/db/timezone/tz/9d tz_latest=
+    icutz>/var/db/timezone/tz/9d/icutz || read_symlink: /var/db/timezone/tz_latest: EINVAL | LOCATE
+    || system
+zoneinfo a folder: no reset can succeed || icutz>/var/db/timezone/tz/9d/icutz -zoneinfo zoneinfo/x=
+    || read_symlink: /var/db/timezone/zoneinfo: EINVAL | INVALID | ZONEDIR | LOCATE | ZONEDIR
+    | reset_to_system_partition failed || || 1
+system version too large: no fallback, localtime still made || use:9d release:99999999999a
+    -localtime || LOCATE | reset_to_system_partition failed | LOCALTIME || default || 1
