@@ -1,8 +1,6 @@
 # Data sets: the first words of +VERSION and icutzformat.txt; ICU data file names
-first words only || release:\n\n\x20\x209c\x20x format:\n44l\x20x latest:9d || || use:9d
-    rec:9c.1.0_9d
-no +VERSION: the system's version text is .1.0 || -/usr/share/zoneinfo.default/+VERSION
-    || UNPARSED:.1.0 | UNPARSED:.1.0
+first words || release:\n\n\x20\x209c\x20x format:\n44l\x20x latest:9d || || use:9d rec:9c.1.0_9d
+no +VERSION: .1.0 || -/usr/share/zoneinfo.default/+VERSION || UNPARSED:.1.0 | UNPARSED:.1.0
 no format on either side: they fit || format: use:9g || NOSCHEMA:9g
 ICU format e || tz/9h/icutz/icutz44e.dat= latest:9h || NOTNEWER:9h vs. 9c.1.0
 ICU folder a link, followed || tz/9g/icutz>../9d/icutz latest:9g || || use:9g rec:9c.1.0_9g

@@ -1,5 +1,4 @@
-*heals: the legacy ICU link migrated, as it reads || /var/db/icutz>timezone/tz ||
-    || icutz>timezone/tz -/var/db/icutz
+*heals: legacy ICU link migrated || /var/db/icutz>timezone/tz || || icutz>timezone/tz -/var/db/icutz
 removed, the present one kept || /var/db/icutz>/var/db icutz>/usr || || -/var/db/icutz
 a dangling one left alone || /var/db/icutz>/none ||
 a dangling present one: migration fails || /var/db/icutz>/var/db icutz>/none
@@ -13,8 +12,6 @@ the system's folder is not the public one || localtime>/usr/share/zoneinfo.defau
     || CORRECTING:.default/UTC | LOCALTIME || default
 kept, whatever follows || localtime>/var/db/timezone/zoneinfoX/Mars ||
 a relative link || localtime>zoneinfo/UTC || LOCALTIME || default
-an empty folder || localtime/ || read_symlink: /var/db/timezone/localtime: EINVAL | LOCALTIME
-    || default
+an empty folder || localtime/ || read_symlink: /var/db/timezone/localtime | LOCALTIME || default
 # A link is read up to 1,024 bytes: this target's 1,024th byte is the '/' its data set ends at
-read up to 1,024 bytes || format: zoneinfo>/var/db/timezone/tz/9d{1002}//zoneinfo
-    || NOSCHEMA:9d{1002}
+a 1,024-byte read || format: zoneinfo>/var/db/timezone/tz/9d{1002}//zoneinfo || NOSCHEMA:9d{1002}

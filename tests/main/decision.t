@@ -9,8 +9,7 @@ older than the system, then a latest of no format || use:9b latest:9g
     || INCOMPAT | NOSCHEMA:9g | NOTNEWER:9g vs. 9b || system marker
 the latest against the current || use:9a latest:9b || INCOMPAT || use:9b marker rec:9c.1.0_9b
 the current's ICU format checked || use:9e latest:9f || INCOMPAT || use:9f marker rec:9c.1.0_9f
-marker made once || use:9b latest:9d needs_cleanup/x/ || INCOMPAT | NOTOUCH:EISDIR
-    || use:9d rec:9c.1.0_9d
+one marker || use:9b latest:9d needs_cleanup/x/ || INCOMPAT | NOTOUCH:EISDIR || use:9d rec:9c.1.0_9d
 marker after the reset || use:9b -icutz icutz/x/ needs_cleanup/x/ || INCOMPAT | ICUDIR
     | NOTOUCH:EISDIR || zoneinfo>/usr/share/zoneinfo.default
 ICU link a folder: no activation, each reset tries both || latest:9d icutz/x/ /var/db/icutz>/none

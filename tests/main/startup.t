@@ -1,10 +1,7 @@
 # The start-up sequence: its shapes of run, link resolution and exit status
-*heals: a first boot, no links || -zoneinfo -localtime || BAD: | INVALID | LOCALTIME
-    || system default
-no links and an update: both in one boot || -zoneinfo latest:9d || BAD: | INVALID
-    || use:9d rec:9c.1.0_9d
-stale entries go: a marker, /var/db/icu an empty folder || marker /var/db/icu/ ||
-    || -needs_cleanup -/var/db/icu
+*heals: a first boot || -zoneinfo -localtime || BAD: | INVALID | LOCALTIME || system default
+no links, an update: one boot || -zoneinfo latest:9d || BAD: | INVALID || use:9d rec:9c.1.0_9d
+stale entries go || marker /var/db/icu/ || || -needs_cleanup -/var/db/icu
 /var/db/icu stays when a full folder || /var/db/icu/x= ||
 no tz/: none made || -tz ||
 no /var/db/timezone: no folder made, no link || -/var/db/timezone || BAD: | INVALID
@@ -23,8 +20,7 @@ tz_latest relative: not resolved || tz_latest>tz/9d || BADPATH:tz/9d | LOCATE
 tz_latest beside tz/: the update in use left || use:9d tz_latest>/var/db/timezone/tzdata/9d
     || BADPATH:/var/db/timezone/tzdata/9d | LOCATE || system
 tz_latest a file: no link read after it || zoneinfo>/var/db/timezone/tz/9d tz_latest=
-    icutz>/var/db/timezone/tz/9d/icutz || read_symlink: /var/db/timezone/tz_latest: EINVAL | LOCATE
-    || system
+    || read_symlink: /var/db/timezone/tz_latest: EINVAL | LOCATE || system
 zoneinfo a folder: no reset can succeed || icutz>/var/db/timezone/tz/9d/icutz -zoneinfo zoneinfo/x=
     || read_symlink: /var/db/timezone/zoneinfo: EINVAL | INVALID | ZONEDIR | LOCATE | ZONEDIR
     | reset_to_system_partition failed || || 1
