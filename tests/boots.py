@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Boots tzlinks on the device states of the tables (docs/HACKING.md), inside tests/device-root:
-boots.py --boots|--faults|--crashes PROGRAM PREFIX(an emulator, or empty) TABLE..."""
+"""boots.py --boots|--faults|--crashes PROGRAM PREFIX(an emulator, or empty) TABLE...: tzlinks
+booted on the device states of the tables, inside tests/device-root (docs/HACKING.md)."""
 
 import difflib
 import errno
@@ -40,7 +40,9 @@ def spelt(text, separator):
     found = []
     for item in filter(None, text.split(separator)):
         name, _, value = item.partition(":")
-        found += spelt(NAMES[name].replace("{}", value), separator) if name in NAMES else [item]
+        named = NAMES.get(name, "")  # without {}, a value stays after it: "LOCATE: EEXIST"
+        named = named.replace("{}", value) if "{}" in named or not value else f"{named}:{value}"
+        found += spelt(named, separator) if name in NAMES else [item]
     return found
 
 
@@ -48,20 +50,22 @@ def entries(text):
     """The (path, state) entries of a row's changes or effects; a file's text takes \\ escapes."""
     found = []
     for word in spelt(text, " "):
-        gone, path, kind, rest = re.fullmatch(r"(-?)(.*?)(/$|[=>]|$)(.*)", word).groups()
+        gone, path, kind, rest = re.fullmatch(r"(-?)(.*?)([/|]$|[=>]|$)(.*)", word).groups()
         rest = rest.encode().decode("unicode_escape")
         found.append((path if path[0] == "/" else T + path, "-" if gone else kind + rest))
     return found
 
 
 def make(path, wanted):
-    """Makes a link (>TARGET), a file (=TEXT or =TEXT%MODE), a folder (/) or nothing (-)."""
+    """Makes a link (>TARGET), a file (=TEXT or =TEXT%MODE), a folder (/), a FIFO (|) or nothing."""
     if os.path.lexists(path):
         subprocess.run(["rm", "-rf", path], check=True)
     if wanted != "-":
         os.makedirs(path if wanted == "/" else os.path.dirname(path), exist_ok=True)
     if wanted[0] == ">":
         os.symlink(wanted[1:], path)
+    if wanted == "|":
+        os.mkfifo(path)
     if wanted[0] == "=":
         text, _, mode = wanted[1:].partition("%")
         pathlib.Path(path).write_text(text, encoding="utf-8")
@@ -73,7 +77,7 @@ def state(path):
     if os.path.islink(path):
         return ">" + os.readlink(path)
     if not os.path.isfile(path):
-        return "/" if os.path.isdir(path) else "-"
+        return "/" if os.path.isdir(path) else "|" if os.path.exists(path) else "-"
     mode = os.stat(path).st_mode & 0o7777
     return "=" + pathlib.Path(path).read_text(encoding="utf-8") + f"%{mode:o}".replace("%644", "")
 
@@ -90,7 +94,7 @@ def arrange(row):
 
 def boot(command):
     """One boot: its exit status and its lines, without the program's name."""
-    result = subprocess.run(command, stderr=subprocess.PIPE, text=True, check=False)
+    result = subprocess.run(command, stderr=subprocess.PIPE, text=True, check=False, timeout=60)
     return result.returncode, result.stderr.replace("tzlinks: ", "").splitlines()
 
 
@@ -110,11 +114,12 @@ def check(command, row):
 
 def traced(command, inject=()):
     """A boot under strace: its status, its lines, and its calls on the device (name, nth, line)."""
-    trace = os.environ["TZLINKS_DEVICE_ROOT"] + "/trace"
-    options = ["-qq", "-y", "-o", trace, "-E", "ASAN_OPTIONS=detect_leaks=0", *inject]
+    trace = pathlib.Path(os.environ["TZLINKS_DEVICE_ROOT"], "trace")
+    trace.write_text("", encoding="utf-8")  # what a tracer that records nothing leaves
+    options = ["-qq", "-y", "-o", str(trace), "-E", "ASAN_OPTIONS=detect_leaks=0", *inject]
     status, said = boot(["strace", *options, *command])
     calls, seen = [], {}
-    for line in pathlib.Path(trace).read_text(encoding="utf-8").splitlines():
+    for line in trace.read_text(encoding="utf-8").splitlines():
         seen[name] = seen.get(name := line.split("(")[0], 0) + 1  # as inject's when= counts
         if re.search(r'["<]/(var|usr/share)/', line):
             calls.append((name, seen[name], line))

@@ -1,4 +1,4 @@
-# NAME:VALUE stands for NAME's entries or messages, {} filled in; every row changes `sound`.
+# NAME:VALUE stands for NAME's entries or messages, {} filled in; rows change `sound` (HACKING.md).
 sound = release:9c /usr/share/zoneinfo.default/UTC= format:44l system
     localtime>/var/db/timezone/zoneinfo/UTC update:9a update:9b update:9d update:9f
     tz/9e/zoneinfo/UTC= tz/9e/icutz/icutz46l.dat= tz/9g/zoneinfo/UTC= in9g:icutznone.dat=

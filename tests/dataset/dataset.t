@@ -1,4 +1,3 @@
-# Data sets: the first words of +VERSION and icutzformat.txt; ICU data file names
 first words || release:\n\n\x20\x209c\x20x format:\n44l\x20x latest:9d || || use:9d rec:9c.1.0_9d
 no +VERSION: .1.0 || -/usr/share/zoneinfo.default/+VERSION || UNPARSED:.1.0 | UNPARSED:.1.0
 no format on either side: they fit || format: use:9g || NOSCHEMA:9g

@@ -13,5 +13,8 @@ the system's folder is not the public one || localtime>/usr/share/zoneinfo.defau
 kept, whatever follows || localtime>/var/db/timezone/zoneinfoX/Mars ||
 a relative link || localtime>zoneinfo/UTC || LOCALTIME || default
 an empty folder || localtime/ || read_symlink: /var/db/timezone/localtime | LOCALTIME || default
+full one || -localtime localtime/x= || read_symlink: /var/db/timezone/localtime | LOCALTIME: EINVAL
+    | create_symlink: from /var/db/timezone/localtime to
+    /var/db/timezone/zoneinfo/America/Los_Angeles | correct_localtime_link failed || || 1
 # A link is read up to 1,024 bytes: this target's 1,024th byte is the '/' its data set ends at
 a 1,024-byte read || format: zoneinfo>/var/db/timezone/tz/9d{1002}//zoneinfo || NOSCHEMA:9d{1002}

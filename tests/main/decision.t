@@ -1,4 +1,3 @@
-# The sound device: the system 9c.1.0, updates 9a, 9b, 9d, 9f (ICU format 44l), 9e (46l), 9g (none)
 *heals: a first boot after an update is installed || latest:9d || || use:9d rec:9c.1.0_9d
 *heals: a later boot with that update in use || use:9d latest:9d || NOTNEWER:9d vs. 9d
 *heals: an update left for the next || use:9d latest:9f rec:9c.1.0_9d || || use:9f marker rec:9d_9f

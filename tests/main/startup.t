@@ -1,7 +1,8 @@
-# The start-up sequence: its shapes of run, link resolution and exit status
 *heals: a first boot || -zoneinfo -localtime || BAD: | INVALID | LOCALTIME || system default
 no links, an update: one boot || -zoneinfo latest:9d || BAD: | INVALID || use:9d rec:9c.1.0_9d
 stale entries go || marker /var/db/icu/ || || -needs_cleanup -/var/db/icu
+/var/db/icu goes first, an ICU folder through it || /var/db/icu>timezone/tz/9d/icutz latest:9g
+    tz/9g/icutz>/var/db/icu || NOSCHEMA:9g | NOTNEWER:9g vs. 9c.1.0 || -/var/db/icu
 /var/db/icu stays when a full folder || /var/db/icu/x= ||
 no tz/: none made || -tz ||
 no /var/db/timezone: no folder made, no link || -/var/db/timezone || BAD: | INVALID
@@ -10,7 +11,8 @@ no /var/db/timezone: no folder made, no link || -/var/db/timezone || BAD: | INVA
     /var/db/timezone/zoneinfo/America/Los_Angeles | correct_localtime_link failed || || 1
 an empty update name || zoneinfo>/var/db/timezone/tz//zoneinfo
     || BAD:/var/db/timezone/tz//zoneinfo | INVALID || system
-any last name, even none || zoneinfo>/var/db/timezone/tz/9d/ icutz>/var/db/timezone/tz/9d/icutz ||
+any last name, even none, after one letter || zoneinfo>/var/db/timezone/tz/x/
+    || UNPARSED:x | NOSCHEMA:x | INCOMPAT || system marker
 deeper than one folder || zoneinfo>/var/db/timezone/tz/9d/x/zoneinfo
     || UNPARSED:9d/x | NOSCHEMA:9d/x | INCOMPAT || system marker
 the system's folder with a slash || zoneinfo>/usr/share/zoneinfo.default/
@@ -19,7 +21,7 @@ tz_latest is tz/ || tz_latest>/var/db/timezone/tz/ || BADPATH:/var/db/timezone/t
 tz_latest relative: not resolved || tz_latest>tz/9d || BADPATH:tz/9d | LOCATE
 tz_latest beside tz/: the update in use left || use:9d tz_latest>/var/db/timezone/tzdata/9d
     || BADPATH:/var/db/timezone/tzdata/9d | LOCATE || system
-tz_latest a file: no link read after it || zoneinfo>/var/db/timezone/tz/9d tz_latest=
+tz_latest a FIFO: no link read after it || zoneinfo>/var/db/timezone/tz/9d tz_latest|
     || read_symlink: /var/db/timezone/tz_latest: EINVAL | LOCATE || system
 zoneinfo a folder: no reset can succeed || icutz>/var/db/timezone/tz/9d/icutz -zoneinfo zoneinfo/x=
     || read_symlink: /var/db/timezone/zoneinfo: EINVAL | INVALID | ZONEDIR | LOCATE | ZONEDIR
